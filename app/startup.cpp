@@ -1,0 +1,103 @@
+#include "startup.h"
+
+#include "commandlineoptions.h"
+#include "oemconfig.h"
+#include "uipaths.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFont>
+#include <QLocale>
+#include <QTranslator>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <unistd.h>
+
+namespace {
+
+const char kShortOptions[] = "h";
+const char kLongOptions[] = "ui:|res:|ui-title:|res-title:|help=h";
+
+void printUsage()
+{
+    puts("USAGE:");
+    puts("queuewiz --ui=<FILE> --res=<PATH>");
+    puts("\t<FILE> is used as UI description file");
+    puts("queuewiz -h|--help");
+    puts("\tDisplay this help and exit");
+}
+
+// A program started through PATH has a bare name in argv[0]; the package
+// directories are then found from the executable itself.
+QByteArray programPath(const char *argv0)
+{
+    if (argv0 && strchr(argv0, '/'))
+        return argv0;
+    char exe[OEM_PATH_MAX];
+    const ssize_t n = readlink("/proc/self/exe", exe, sizeof exe - 1);
+    if (n <= 0)
+        return argv0 ? argv0 : "";
+    return QByteArray(exe, static_cast<int>(n));
+}
+
+bool haveDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+// Asking for the usage must work in a terminal without a display too.
+void allowUsageWithoutDisplay(int argc, char **argv)
+{
+    if (haveDisplay())
+        return;
+    for (int i = 1; i < argc; ++i) {
+        if (strcmp(argv[i], "--") == 0)
+            break;
+        if (argv[i][0] == '-') {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+            return;
+        }
+    }
+}
+
+void loadTranslations(QApplication &app)
+{
+    static const char *const names[] = { "queuewiz" };
+    const QString dir = QDir(QString::fromLocal8Bit(actx.shareDir)).filePath(QStringLiteral("tr"));
+    for (const char *name : names) {
+        auto translator = std::make_unique<QTranslator>(&app);
+        if (translator->load(QString::fromLatin1(name) + QLatin1Char('-') + QLocale::system().name(), dir))
+            app.installTranslator(translator.release());
+    }
+}
+
+} // namespace
+
+int queuewizMain(int argc, char **argv)
+{
+    if (readOemConfig(programPath(argc > 0 ? argv[0] : nullptr).constData()) == -1) {
+        puts("WARNING: configuration file not found");
+        fflush(stdout);
+    }
+
+    allowUsageWithoutDisplay(argc, argv);
+    QApplication app(argc, argv);
+
+    loadTranslations(app);
+
+    CommandLineOptions options(argc, argv, kShortOptions, kLongOptions);
+    if (options.contains(QStringLiteral("h")) || options.contains(QStringLiteral("-"))) {
+        printUsage();
+        return options.contains(QStringLiteral("-")) ? -1 : 0;
+    }
+
+    QFont::insertSubstitution(QStringLiteral("Helvetica"), QStringLiteral("Adobe Helvetica"));
+
+    const UiPaths paths = UiPaths::resolve(options, QString::fromLocal8Bit(actx.shareDir));
+    (void)paths;
+    return 0;
+}

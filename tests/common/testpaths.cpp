@@ -1,0 +1,17 @@
+#include "testpaths.h"
+
+#include <QtGlobal>
+
+namespace TestPaths {
+
+QString sourceDir()
+{
+    return qEnvironmentVariable("QW_SOURCE_DIR", QStringLiteral(QW_DEFAULT_SOURCE_DIR));
+}
+
+QString binaryDir()
+{
+    return qEnvironmentVariable("QW_BINARY_DIR", QStringLiteral(QW_DEFAULT_BINARY_DIR));
+}
+
+} // namespace TestPaths
