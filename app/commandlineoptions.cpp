@@ -39,7 +39,8 @@ CommandLineOptions::CommandLineOptions(int argc, char **argv, const char *shortO
     std::vector<char> names;
     const std::vector<option> table = longOptionTable(longSpec, names);
 
-    optind = 1;
+    // 0, not 1: glibc then also forgets the state of an earlier scan.
+    optind = 0;
     for (;;) {
         int index = -1;
         int c = getopt_long(argc, argv, shortOptions, table.data(), &index);

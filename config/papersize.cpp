@@ -37,29 +37,31 @@ bool isLetterZone(int code)
 
 } // namespace
 
-const char *defaultPaperSize()
+const char *paperSizeForLocale(const char *localeName, int paperWidthMm)
 {
     static const char letter[] = "Letter";
     static const char a4[] = "A4";
 
+    char country[3] = "";
+    if (localeName && sscanf(localeName, "%*2s_%2s", country) == 1)
+        return isLetterZone(callingCode(country)) ? letter : a4;
+    // No country in the name (C, POSIX, a three-letter language): the
+    // locale's own paper width decides.
+    return paperWidthMm == 216 ? letter : a4;
+}
+
+const char *defaultPaperSize()
+{
     const char *adopted = setlocale(LC_PAPER, "");
     const std::string kept = adopted ? adopted : "C";
-    const auto restore = [&kept] { setlocale(LC_PAPER, kept.c_str()); };
 
-    char country[3] = "";
-    if (sscanf(kept.c_str(), "%*2s_%2s", country) == 1) {
-        const bool isLetter = isLetterZone(callingCode(country));
-        restore();
-        return isLetter ? letter : a4;
-    }
-
-    // No country in the name: ask the locale for its paper width instead.
     // glibc hands integer items back in the pointer's place.
     union {
         const char *string;
         unsigned int word;
     } width;
     width.string = nl_langinfo(_NL_PAPER_WIDTH);
-    restore();
-    return width.word == 216 ? letter : a4;
+    setlocale(LC_PAPER, kept.c_str());
+
+    return paperSizeForLocale(kept.c_str(), static_cast<int>(width.word));
 }

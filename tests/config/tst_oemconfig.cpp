@@ -1,0 +1,209 @@
+#include "oemconfig.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cstring>
+
+class TestOemConfig : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_tmp;
+    QString m_pkg;
+
+    void writeFile(const QString &path, const QByteArray &content)
+    {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile f(path);
+        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write(content);
+    }
+
+    int readFromPackage()
+    {
+        memset(&actx, 0, sizeof actx);
+        return readOemConfig(QFile::encodeName(m_pkg + QStringLiteral("/bin/queuewiz")).constData());
+    }
+
+private slots:
+    void init()
+    {
+        m_pkg = m_tmp.path() + QStringLiteral("/pkg");
+        QDir(m_pkg).removeRecursively();
+        QDir().mkpath(m_pkg + QStringLiteral("/bin"));
+        QDir::setCurrent(m_tmp.path());
+        QFile::remove(m_tmp.path() + QStringLiteral("/OEM.ini"));
+    }
+
+    void keys_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("expected");
+
+        QTest::newRow("vendor and its cases") << QByteArray("VENDOR=AcMe\n") << "vendor|lower|upper"
+                                              << "AcMe|acme|ACME";
+        QTest::newRow("multivendor never sets vendor")
+            << QByteArray("MULTIVENDOR=1\n") << "vendor|multiVendor" << "|1";
+        QTest::newRow("portplugin never adds a plug-in")
+            << QByteArray("PORTPLUGIN=0\n") << "portPlugin|pluginCount" << "0|0";
+        QTest::newRow("defaults") << QByteArray("nothing here\n")
+                                  << "multiVendor|parPort|portPlugin|scanner|updateGroup|modelCount"
+                                  << "0|1|1|1|1|0";
+        QTest::newRow("non-number reads as 0") << QByteArray("PARPORT=abc\n") << "parPort" << "0";
+        QTest::newRow("text before the key") << QByteArray("# our VENDOR=Acme\n") << "vendor" << "Acme";
+        QTest::newRow("last value wins") << QByteArray("URL=a\nURL=b\nSCANNER=0\nSCANNER=7\n")
+                                         << "url|scanner" << "b|7";
+        QTest::newRow("vendor cut to 31")
+            << QByteArray("VENDOR=" + QByteArray(40, 'v') + "\n") << "vendor" << QString(31, 'v');
+        QTest::newRow("url cut to 255")
+            << QByteArray("URL=" + QByteArray(300, 'u') + "\n") << "url" << QString(255, 'u');
+        QTest::newRow("model cut to 15")
+            << QByteArray("MODEL=Laser 1610 Series XL\n") << "models" << "Laser 1610 Seri";
+        QTest::newRow("CR LF line ends") << QByteArray("VENDOR=Acme\r\nURL=x\r\n") << "vendor|url"
+                                         << "Acme|x";
+        QTest::newRow("no line end at the end") << QByteArray("VENDOR=Acme") << "vendor" << "Acme";
+
+        QByteArray models;
+        for (int i = 1; i <= 33; ++i)
+            models += "MODEL=m" + QByteArray::number(i) + "\n";
+        QTest::newRow("33rd model ignored") << models << "modelCount|lastModel" << "32|m32";
+        QByteArray plugins;
+        for (int i = 1; i <= 6; ++i)
+            plugins += "PLUGIN=/p" + QByteArray::number(i) + "\n";
+        QTest::newRow("6th plug-in ignored") << plugins << "pluginCount|lastPlugin" << "5|/p5";
+        // A line longer than the reader's buffer comes in pieces; the
+        // key in the second piece is still seen.
+        QTest::newRow("overlong line")
+            << QByteArray(QByteArray(511, 'x') + "VENDOR=Acme\n") << "vendor" << "Acme";
+    }
+
+    void keys()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, field);
+        QFETCH(QString, expected);
+        writeFile(m_pkg + QStringLiteral("/share/OEM.ini"), content);
+        QCOMPARE(readFromPackage(), 0);
+
+        const auto s = [](const char *v) { return QString::fromLatin1(v); };
+        QStringList got;
+        for (const QString &f : field.split('|')) {
+            if (f == "vendor") got << s(actx.vendor);
+            else if (f == "lower") got << s(actx.vendorLower);
+            else if (f == "upper") got << s(actx.vendorUpper);
+            else if (f == "url") got << s(actx.url);
+            else if (f == "models") got << s(actx.models[0]);
+            else if (f == "lastModel") got << s(actx.models[actx.modelCount - 1]);
+            else if (f == "lastPlugin") got << s(actx.plugins[actx.pluginCount - 1]);
+            else if (f == "multiVendor") got << QString::number(actx.multiVendor);
+            else if (f == "parPort") got << QString::number(actx.parPort);
+            else if (f == "portPlugin") got << QString::number(actx.portPlugin);
+            else if (f == "scanner") got << QString::number(actx.scanner);
+            else if (f == "updateGroup") got << QString::number(actx.updatePrinterGroup);
+            else if (f == "modelCount") got << QString::number(actx.modelCount);
+            else if (f == "pluginCount") got << QString::number(actx.pluginCount);
+            else QFAIL(qPrintable("unknown field " + f));
+        }
+        QCOMPARE(got.join('|'), expected);
+    }
+
+    void locations_data()
+    {
+        QTest::addColumn<QStringList>("present");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("vendor");
+
+        QTest::newRow("share first") << QStringList{ "share", "root", "cwd" } << 0 << "share";
+        QTest::newRow("root before cwd") << QStringList{ "root", "cwd" } << 0 << "root";
+        QTest::newRow("current directory last") << QStringList{ "cwd" } << 0 << "cwd";
+        QTest::newRow("none") << QStringList{} << -1 << "";
+    }
+
+    void locations()
+    {
+        QFETCH(QStringList, present);
+        QFETCH(int, result);
+        QFETCH(QString, vendor);
+        const QMap<QString, QString> where{
+            { "share", m_pkg + "/share/OEM.ini" },
+            { "root", m_pkg + "/OEM.ini" },
+            { "cwd", m_tmp.path() + "/OEM.ini" },
+        };
+        for (const QString &p : present)
+            writeFile(where[p], "VENDOR=" + p.toLatin1() + "\n");
+
+        QCOMPARE(readFromPackage(), result);
+        QCOMPARE(QString::fromLatin1(actx.vendor), vendor);
+        if (result == -1) {
+            // Nothing found: not even the defaults are set.
+            QCOMPARE(actx.parPort, 0);
+            QCOMPARE(actx.scanner, 0);
+        }
+    }
+
+    void directories_data()
+    {
+        QTest::addColumn<QString>("cwd");
+        QTest::addColumn<QString>("argv0");
+        QTest::addColumn<QString>("bin");
+
+        // TMP stands for a scratch directory; the paths need not exist.
+        QTest::newRow("absolute") << "/" << "/opt/pkg/bin/queuewiz" << "/opt/pkg/bin";
+        QTest::newRow("dot relative") << "TMP/opt/pkg" << "./bin/queuewiz" << "TMP/opt/pkg/bin";
+        QTest::newRow("plain relative") << "TMP/opt/pkg" << "bin/queuewiz" << "TMP/opt/pkg/bin";
+        QTest::newRow("cwd is the root") << "/" << "opt/pkg/bin/queuewiz" << "/opt/pkg/bin";
+    }
+
+    void directories()
+    {
+        QFETCH(QString, cwd);
+        QFETCH(QString, argv0);
+        QFETCH(QString, bin);
+        const QString tmp = QDir(m_tmp.path()).canonicalPath();
+        cwd.replace("TMP", tmp);
+        bin.replace("TMP", tmp);
+        QDir().mkpath(cwd);
+        QVERIFY(QDir::setCurrent(cwd));
+
+        memset(&actx, 0, sizeof actx);
+        readOemConfig(QFile::encodeName(argv0).constData());
+        QCOMPARE(QString::fromLocal8Bit(actx.binDir), bin);
+        QCOMPARE(QString::fromLocal8Bit(actx.rootDir), bin.section('/', 0, -2));
+        QCOMPARE(QString::fromLocal8Bit(actx.shareDir), bin.section('/', 0, -2) + "/share");
+    }
+
+    void vendorModel_data()
+    {
+        QTest::addColumn<QString>("vendor");
+        QTest::addColumn<int>("multi");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("result");
+
+        QTest::newRow("substring, any case") << "Acme" << 0 << "ACME Laser 1610" << 1;
+        QTest::newRow("other vendor") << "Acme" << 0 << "Globex Jet" << 0;
+        QTest::newRow("other vendor, multivendor") << "Acme" << 1 << "Globex Jet" << 1;
+        QTest::newRow("null text") << "Acme" << 0 << QString() << 0;
+        QTest::newRow("null text, multivendor") << "Acme" << 1 << QString() << 1;
+        QTest::newRow("empty vendor matches all") << "" << 0 << "Globex Jet" << 1;
+    }
+
+    void vendorModel()
+    {
+        QFETCH(QString, vendor);
+        QFETCH(int, multi);
+        QFETCH(QString, text);
+        QFETCH(int, result);
+        memset(&actx, 0, sizeof actx);
+        qstrncpy(actx.vendor, vendor.toLatin1().constData(), sizeof actx.vendor);
+        actx.multiVendor = multi;
+        const QByteArray t = text.toLatin1();
+        QCOMPARE(isVendorModel(text.isNull() ? nullptr : t.constData()), result);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestOemConfig)
+#include "tst_oemconfig.moc"
