@@ -2,6 +2,7 @@
 
 #include "commandlineoptions.h"
 #include "oemconfig.h"
+#include "qtsingleapplication.h"
 #include "uipaths.h"
 
 #include <QApplication>
@@ -85,9 +86,14 @@ int queuewizMain(int argc, char **argv)
     }
 
     allowUsageWithoutDisplay(argc, argv);
-    QApplication app(argc, argv);
+    QtSingleApplication app(QStringLiteral("AddPrinterWizard_SingleApplication"), argc, argv);
+    // Another instance of this user on this display takes over: wake it and go.
+    if (app.sendMessage(QStringLiteral("Wake up!!!"), 5000))
+        return 0;
 
     loadTranslations(app);
+
+    app.initialize(true);
 
     CommandLineOptions options(argc, argv, kShortOptions, kLongOptions);
     if (options.contains(QStringLiteral("h")) || options.contains(QStringLiteral("-"))) {
