@@ -1,0 +1,250 @@
+#include "dnssdservice.h"
+#include "networkprinter.h"
+#include "networkprinterlist.h"
+#include "snmpdevice.h"
+#include "testpaths.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+class TestNetDiscovery : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_dir;
+
+    static QString engine(const QString &name)
+    {
+        return TestPaths::sourceDir() + "/tests/tools/engines/" + name;
+    }
+
+    struct Run
+    {
+        int status;
+        QStringList lines;
+        QString errors;
+    };
+
+    Run run(const QString &avahi, const QString &snmp, const QStringList &args = {})
+    {
+        QProcess p;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("NETDISCOVERY_AVAHI_BROWSE", avahi);
+        env.insert("NETDISCOVERY_SNMP_BACKEND", snmp);
+        p.setProcessEnvironment(env);
+        p.start(TestPaths::binaryDir() + "/tools/netdiscovery/netdiscovery", args);
+        if (!p.waitForFinished(20000)) {
+            p.kill();
+            return { -1, {}, "did not end" };
+        }
+        QStringList lines = QString::fromUtf8(p.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+        lines.removeIf([](const QString &l) { return l.startsWith('#'); });
+        return { p.exitCode(), lines, QString::fromLocal8Bit(p.readAllStandardError()) };
+    }
+
+private slots:
+    void avahiLine_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<QString>("fields");
+
+        QTest::newRow("resolved")
+            << "=;eth0;IPv4;Acme\\032Laser\\0321610;_ipp._tcp;local;acme.local;192.0.2.7;631;\"txtvers=1\" "
+               "\"ty=Acme Laser 1610\""
+            << true << "Acme Laser 1610|_ipp._tcp|192.0.2.7|631|Acme Laser 1610";
+        QTest::newRow("no ty") << "=;eth0;IPv6;Office;_printer._tcp;local;o.local;2001:db8::5;515;"
+                               << true << "Office|_printer._tcp|2001:db8::5|515|";
+        QTest::newRow("escaped dot and semicolon")
+            << "=;eth0;IPv4;a\\.b\\059c;_pdl-datastream._tcp;local;h.local;192.0.2.8;9100;\"ty=x;y\""
+            << true << "a.b;c|_pdl-datastream._tcp|192.0.2.8|9100|x;y";
+        QTest::newRow("UTF-8 in escapes") << "=;e;IPv4;Caf\\195\\169;_ipp._tcp;local;h;192.0.2.9;631;"
+                                          << true << "Café|_ipp._tcp|192.0.2.9|631|";
+        QTest::newRow("quote in ty") << "=;e;IPv4;n;_ipp._tcp;local;h;192.0.2.9;631;\"ty=The \\\"Big\\\" One\""
+                                     << true << "n|_ipp._tcp|192.0.2.9|631|The \"Big\" One";
+        QTest::newRow("not resolved") << "+;eth0;IPv4;Acme;_ipp._tcp;local" << false << "";
+        QTest::newRow("no address") << "=;eth0;IPv4;Acme;_ipp._tcp;local;h;;631;" << false << "";
+        QTest::newRow("garbage") << "=;;;" << false << "";
+    }
+
+    void avahiLine()
+    {
+        QFETCH(QString, line);
+        QFETCH(bool, ok);
+        QFETCH(QString, fields);
+        DnsSdService s;
+        QCOMPARE(DnsSdService::parse(line, &s), ok);
+        if (ok)
+            QCOMPARE(QStringList({ s.name, s.type, s.address, QString::number(s.port), s.productName }).join('|'),
+                     fields);
+    }
+
+    void snmpLine_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<QString>("fields");
+
+        QTest::newRow("socket") << "network socket://192.0.2.10 \"Acme Laser\" \"Acme Laser 192.0.2.10\" "
+                                   "\"MFG:Acme;MDL:Laser;\" \"\""
+                                << true << "socket|192.0.2.10|Acme Laser|MFG:Acme;MDL:Laser;";
+        QTest::newRow("lpd, IPv6") << "network lpd://[2001:db8::7]/queue \"X\" \"X\" \"\" \"\"" << true
+                                   << "lpd|2001:db8::7|X|";
+        QTest::newRow("not network") << "direct usb://Acme/Laser \"A\" \"B\" \"\" \"\"" << false << "";
+        QTest::newRow("no host") << "network socket:// \"A\"" << false << "";
+        QTest::newRow("empty") << "" << false << "";
+    }
+
+    void snmpLine()
+    {
+        QFETCH(QString, line);
+        QFETCH(bool, ok);
+        QFETCH(QString, fields);
+        SnmpDevice d;
+        QCOMPARE(SnmpDevice::parse(line, &d), ok);
+        if (ok)
+            QCOMPARE(QStringList({ d.scheme, d.address, d.makeAndModel, d.deviceId }).join('|'), fields);
+    }
+
+    void merge_data()
+    {
+        QTest::addColumn<QStringList>("input");
+        QTest::addColumn<QStringList>("output");
+
+        const QString ipp = "=;e;IPv4;Acme\\032One;_ipp._tcp;local;h;192.0.2.20;631;\"ty=Acme One\"";
+        const QString raw = "=;e;IPv4;Acme\\032One;_pdl-datastream._tcp;local;h;192.0.2.20;9100;";
+        const QString lpd = "=;e;IPv4;Acme\\032One;_printer._tcp;local;h;192.0.2.20;515;";
+        QTest::newRow("three services, one line")
+            << QStringList{ "d" + raw, "d" + lpd, "d" + ipp }
+            << QStringList{ "ip: 192.0.2.20 slp: 1,1,1,1 snmp: 0,0,0 dsc: \"Acme One\"" };
+        QTest::newRow("service name until ty arrives")
+            << QStringList{ "d" + raw } << QStringList{ "ip: 192.0.2.20 slp: 1,0,0,1 snmp: 0,0,0 dsc: \"Acme One\"" };
+        QTest::newRow("SNMP only")
+            << QStringList{ "snetwork socket://192.0.2.30 \"Globex Jet\" \"x\" \"MFG:G;\" \"\"" }
+            << QStringList{ "ip: 192.0.2.30 slp: 0,0,0,0 snmp: 1,1,1 dsc: \"Globex Jet\"" };
+        QTest::newRow("SNMP and DNS-SD merged, DNS-SD describes")
+            << QStringList{ "snetwork socket://192.0.2.20 \"Model\" \"x\" \"\" \"\"", "d" + ipp }
+            << QStringList{ "ip: 192.0.2.20 slp: 1,1,0,0 snmp: 1,1,0 dsc: \"Acme One\"" };
+        QTest::newRow("numeric order, IPv4 before IPv6")
+            << QStringList{ "d=;e;IPv6;b;_ipp._tcp;local;h;2001:db8::1;631;",
+                            "d=;e;IPv4;c;_ipp._tcp;local;h;192.0.2.100;631;",
+                            "d=;e;IPv4;a;_ipp._tcp;local;h;192.0.2.9;631;" }
+            << QStringList{ "ip: 192.0.2.9 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"a\"",
+                            "ip: 192.0.2.100 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"c\"",
+                            "ip: 2001:db8::1 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"b\"" };
+        QTest::newRow("IPv6 spellings are one address")
+            << QStringList{ "d=;e;IPv6;b;_ipp._tcp;local;h;2001:DB8:0::1;631;",
+                            "d=;e;IPv6;b;_printer._tcp;local;h;2001:db8::1;515;" }
+            << QStringList{ "ip: 2001:db8::1 slp: 1,1,1,0 snmp: 0,0,0 dsc: \"b\"" };
+        QTest::newRow("link-local left out")
+            << QStringList{ "d=;e;IPv6;b;_ipp._tcp;local;h;fe80::1;631;", "d=;e;IPv4;b;_ipp._tcp;local;h;169.254.1.1;631;" }
+            << QStringList{};
+        QTest::newRow("other service types only mark the answer")
+            << QStringList{ "d=;e;IPv4;s;_scanner._tcp;local;h;192.0.2.5;80;" }
+            << QStringList{ "ip: 192.0.2.5 slp: 1,0,0,0 snmp: 0,0,0 dsc: \"s\"" };
+    }
+
+    void merge()
+    {
+        QFETCH(QStringList, input);
+        QFETCH(QStringList, output);
+        NetworkPrinterList list;
+        for (const QString &in : input) {
+            if (in.startsWith('d')) {
+                DnsSdService s;
+                QVERIFY(DnsSdService::parse(in.mid(1), &s));
+                list.add(s);
+            } else {
+                SnmpDevice d;
+                QVERIFY(SnmpDevice::parse(in.mid(1), &d));
+                list.add(d);
+            }
+        }
+        QCOMPARE(list.lines(), output);
+    }
+
+    void description_data()
+    {
+        QTest::addColumn<QString>("in");
+        QTest::addColumn<QString>("out");
+
+        QTest::newRow("quotes") << "The \"Big\" One" << "The 'Big' One";
+        QTest::newRow("line breaks") << "two\nlines\r\tand tab" << "two lines and tab";
+        QTest::newRow("95 bytes kept") << QString(100, 'x') << QString(95, 'x');
+        // 47 two-byte characters are 94 bytes; the 48th would split.
+        QTest::newRow("cut on a character") << QString(60, QChar(0xe9)) << QString(47, QChar(0xe9));
+        QTest::newRow("surrogate pair not split")
+            << QString("x") + QString::fromUtf8("\xf0\x9f\x96\xa8").repeated(30)
+            << QString("x") + QString::fromUtf8("\xf0\x9f\x96\xa8").repeated(23);
+    }
+
+    void description()
+    {
+        QFETCH(QString, in);
+        QFETCH(QString, out);
+        QCOMPARE(NetworkPrinter::cleanDescription(in), out);
+    }
+
+    // The real program against stand-in engines.
+    void program()
+    {
+        const QString avahi = engine("avahi-browse");
+        const QString snmp = engine("snmp");
+        Run r = run(avahi, snmp, { "-c", "secret" });
+        QCOMPARE(r.status, 0);
+        QCOMPARE(r.lines, (QStringList{ "ip: 192.0.2.20 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Acme 'One'\"",
+                                        "ip: 192.0.2.30 slp: 0,0,0,0 snmp: 1,1,0 dsc: \"Globex Jet\"",
+                                        "ip: 2001:db8::20 slp: 1,0,0,1 snmp: 0,0,0 dsc: \"Acme One\"" }));
+        QCOMPARE(r.errors, QString());
+
+        // Without the community the stand-in answers nothing.
+        QCOMPARE(run(avahi, snmp).lines.size(), 2);
+    }
+
+    void unavailableEngines()
+    {
+        Run r = run(engine("daemon-down"), m_dir.filePath("no-such-backend"));
+        QCOMPARE(r.status, 0);
+        QVERIFY(r.lines.isEmpty());
+        QVERIFY2(r.errors.contains("DNS-SD: Failed to create client object: Daemon not running"), qPrintable(r.errors));
+        QVERIFY2(r.errors.contains("SNMP: " + m_dir.filePath("no-such-backend") + " not found"), qPrintable(r.errors));
+        // One line per reason, not one per service type.
+        QCOMPARE(r.errors.count("DNS-SD"), 1);
+
+        r = run(m_dir.filePath("no-such-avahi"), "none");
+        QVERIFY2(r.errors.contains("could not be started"), qPrintable(r.errors));
+    }
+
+    // An engine that never ends is stopped at the deadline; what it said
+    // before that still counts.
+    void timeBound()
+    {
+        const QString slow = engine("slow");
+        Run r = run(slow, slow, { "-t", "1" });
+        QCOMPARE(r.status, 0);
+        QCOMPARE(r.lines, QStringList{ "ip: 192.0.2.40 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Slow\"" });
+        QVERIFY2(r.errors.contains("no complete answer within 1000 ms"), qPrintable(r.errors));
+    }
+
+    void badOptions_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::addColumn<int>("status");
+        QTest::newRow("-t 0") << QStringList{ "-t", "0" } << 2;
+        QTest::newRow("-t x") << QStringList{ "-t", "x" } << 2;
+        QTest::newRow("unknown") << QStringList{ "-z" } << 2;
+        QTest::newRow("-h") << QStringList{ "-h" } << 0;
+    }
+
+    void badOptions()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(int, status);
+        QCOMPARE(run("none", "none", args).status, status);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestNetDiscovery)
+#include "tst_netdiscovery.moc"
