@@ -15,7 +15,9 @@ namespace {
 // Copies at most size - 1 characters and always terminates.
 void copyCut(char *dst, const char *src, size_t size)
 {
-    size_t n = strnlen(src, size - 1);
+    size_t n = strlen(src);
+    if (n > size - 1)
+        n = size - 1;
     memcpy(dst, src, n);
     dst[n] = '\0';
 }

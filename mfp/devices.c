@@ -50,6 +50,12 @@ static void root_path(char *out, size_t size, const char *path)
     snprintf(out, size, "%s%s", root ? root : "", path);
 }
 
+/* dir/name into out; 0 when it does not fit (such a path names nothing we want). */
+static int join_path(char *out, size_t size, const char *dir, const char *name)
+{
+    return snprintf(out, size, "%s/%s", dir, name) < (int)size;
+}
+
 /*
  * Reads the attribute file dir/name into buf, without trailing white space.
  * 1 when the file could be read.
@@ -58,7 +64,7 @@ static int read_attr(const char *dir, const char *name, char *buf, size_t size)
 {
     char path[PATH_LEN];
     buf[0] = '\0';
-    if (snprintf(path, sizeof path, "%s/%s", dir, name) >= (int)sizeof path)
+    if (!join_path(path, sizeof path, dir, name))
         return 0;
     FILE *f = fopen(path, "r");
     if (!f)
@@ -123,8 +129,8 @@ static int is_probed_parport(const char *dir, const char *name)
     if (strncmp(name, "parport", 7) != 0 || !name[7] || strspn(name + 7, "0123456789") != strlen(name + 7))
         return 0;
     char path[PATH_LEN], text[MFP_ID_MAX];
-    snprintf(path, sizeof path, "%s/%s", dir, name);
-    return read_attr(path, "autoprobe", text, sizeof text) && strchr(text, ':') != NULL;
+    return join_path(path, sizeof path, dir, name) && read_attr(path, "autoprobe", text, sizeof text)
+        && strchr(text, ':') != NULL;
 }
 
 static void fill_parallel(const char *dir, const char *name, mfp_device *device)
@@ -133,8 +139,9 @@ static void fill_parallel(const char *dir, const char *name, mfp_device *device)
     static const char *const model_keys[] = { "MODEL", "MDL", "DESCRIPTION", "DES", NULL };
     char path[PATH_LEN], text[MFP_ID_MAX], id[MFP_ID_MAX];
 
-    snprintf(path, sizeof path, "%s/%s", dir, name);
-    read_attr(path, "autoprobe", text, sizeof text);
+    text[0] = '\0';
+    if (join_path(path, sizeof path, dir, name))
+        read_attr(path, "autoprobe", text, sizeof text);
     mfp_id_from_autoprobe(text, id, sizeof id);
 
     device->type = MFP_DEVICE_PARALLEL;
@@ -152,7 +159,8 @@ static int is_printer_interface(const char *dir, const char *name)
     if (!strchr(name, ':'))
         return 0;
     char path[PATH_LEN];
-    snprintf(path, sizeof path, "%s/%s", dir, name);
+    if (!join_path(path, sizeof path, dir, name))
+        return 0;
     /* IPP over USB interfaces belong to an IPP daemon, not to the usb backend */
     return read_hex_attr(path, "bInterfaceClass") == USB_CLASS_PRINTER
         && read_hex_attr(path, "bInterfaceProtocol") != USB_PROTOCOL_IPP;
@@ -175,8 +183,10 @@ static void fill_usb(const char *dir, const char *interface, mfp_device *device)
     char id[MFP_ID_MAX], serial[ATTR_LEN], text[ATTR_LEN];
 
     device_of(interface, name, sizeof name);
-    snprintf(ifpath, sizeof ifpath, "%s/%s", dir, interface);
-    snprintf(devpath, sizeof devpath, "%s/%s", dir, name);
+    if (!join_path(ifpath, sizeof ifpath, dir, interface))
+        ifpath[0] = '\0';
+    if (!join_path(devpath, sizeof devpath, dir, name))
+        devpath[0] = '\0';
 
     device->type = MFP_DEVICE_USB;
     read_attr(ifpath, "ieee1284_id", id, sizeof id);
