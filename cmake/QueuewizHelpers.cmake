@@ -14,11 +14,14 @@ function(qw_test name)
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE Qt6::Test qw_testsupport ${ARG_LIBS})
   add_test(NAME ${name} COMMAND ${name})
-  # libcups run as root keeps the destination list in CUPS_SERVERROOT; tests
-  # must not write the system's one.
+  # libcups keeps the destination list in CUPS_SERVERROOT (root) or in
+  # $HOME/.cups, and queuewiz writes its request logs: tests keep all of it
+  # in the build tree, away from the user's and the system's files.
   set(env "QT_QPA_PLATFORM=offscreen" "QW_SOURCE_DIR=${PROJECT_SOURCE_DIR}"
           "QW_BINARY_DIR=${PROJECT_BINARY_DIR}"
-          "CUPS_SERVERROOT=${PROJECT_BINARY_DIR}/cups-sandbox/client" ${ARG_ENV})
+          "CUPS_SERVERROOT=${PROJECT_BINARY_DIR}/cups-sandbox/client"
+          "HOME=${PROJECT_BINARY_DIR}/test-home"
+          "QUEUEWIZ_LOG_DIR=${PROJECT_BINARY_DIR}/test-logs" ${ARG_ENV})
   set_tests_properties(${name} PROPERTIES ENVIRONMENT "${env}")
   if(ARG_FIXTURES)
     set_tests_properties(${name} PROPERTIES FIXTURES_REQUIRED "${ARG_FIXTURES}")

@@ -1,0 +1,243 @@
+#include "ipprequest.h"
+
+#include "ipplog.h"
+#include "passworddialog.h"
+
+#include <QFile>
+
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+// Bounds for a scheduler that does not answer; listing a large driver
+// catalogue can legitimately take a while.
+constexpr int ConnectTimeoutMs = 10000;
+constexpr double AnswerTimeoutSeconds = 120.0;
+
+QString s_savedPassword;
+QByteArray s_passwordBytes; // what libcups reads; kept alive here
+bool s_rootAuthenticated = false;
+// Set once the saved password was offered during the current request: if the
+// scheduler asks again, it has refused it, and offering it once more would
+// make libcups ask forever.
+bool s_savedOffered = false;
+IPPRequest::PasswordAsker s_asker = nullptr;
+
+void wipe(QByteArray &bytes)
+{
+    bytes.fill('\0');
+    bytes.clear();
+}
+
+} // namespace
+
+IPPRequest::IPPRequest(ipp_op_t operation)
+    : m_operation(operation)
+{
+    setUpAuthentication();
+    m_request.reset(ippNew());
+    ippSetRequestId(m_request.get(), 1);
+    ippSetOperation(m_request.get(), operation);
+
+    cups_lang_t *language = cupsLangGet(nullptr);
+    // Every text this program sends is UTF-8, and the scheduler refuses any
+    // charset but these two; a legacy locale's charset would fail every request.
+    QByteArray charset(language ? cupsLangEncoding(language) : "utf-8");
+    if (charset != "utf-8" && charset != "us-ascii")
+        charset = "utf-8";
+    ippAddString(m_request.get(), IPP_TAG_OPERATION, IPP_TAG_CHARSET, "attributes-charset", nullptr,
+                 charset.constData());
+    // ippAddString turns "en_US" into the "en-us" form of IPP.
+    ippAddString(m_request.get(), IPP_TAG_OPERATION, IPP_TAG_LANGUAGE, "attributes-natural-language",
+                 nullptr, language ? language->language : "en");
+    cupsLangFree(language);
+}
+
+IPPRequest::~IPPRequest() = default;
+
+void IPPRequest::setUpAuthentication()
+{
+    cupsSetPasswordCB(&IPPRequest::passwordCallback);
+    cupsSetUser("root");
+    if (!s_rootAuthenticated)
+        s_rootAuthenticated = getuid() == 0;
+}
+
+void IPPRequest::addString(ipp_tag_t valueTag, const char *name, const char *value, ipp_tag_t group)
+{
+    if (m_request)
+        ippAddString(m_request.get(), group, valueTag, name, nullptr, value);
+}
+
+void IPPRequest::addURI(const char *name, const char *value, ipp_tag_t group)
+{
+    addString(IPP_TAG_URI, name, value, group);
+}
+
+void IPPRequest::addName(const char *name, const char *value, ipp_tag_t group)
+{
+    addString(IPP_TAG_NAME, name, value ? value : "", group);
+}
+
+void IPPRequest::addText(const char *name, const char *value, ipp_tag_t group)
+{
+    addString(IPP_TAG_TEXT, name, value ? value : "", group);
+}
+
+void IPPRequest::addMimeType(const char *name, const char *value, ipp_tag_t group)
+{
+    addString(IPP_TAG_MIMETYPE, name, value ? value : "", group);
+}
+
+void IPPRequest::addInteger(const char *name, int value, ipp_tag_t valueTag, ipp_tag_t group)
+{
+    if (m_request)
+        ippAddInteger(m_request.get(), group, valueTag, name, value);
+}
+
+void IPPRequest::addBoolean(const char *name, char value, ipp_tag_t group)
+{
+    if (m_request)
+        ippAddBoolean(m_request.get(), group, name, value != 0);
+}
+
+void IPPRequest::addURIList(const char *name, const QStringList &values, ipp_tag_t group)
+{
+    addStringList(IPP_TAG_URI, name, values, group);
+}
+
+void IPPRequest::addKeywordList(const char *name, const QStringList &values, ipp_tag_t group)
+{
+    addStringList(IPP_TAG_KEYWORD, name, values, group);
+}
+
+void IPPRequest::addStringList(ipp_tag_t valueTag, const char *name, const QStringList &values, ipp_tag_t group)
+{
+    if (!m_request || values.isEmpty())
+        return;
+    QList<QByteArray> utf8;
+    utf8.reserve(values.size());
+    QList<const char *> pointers;
+    pointers.reserve(values.size());
+    for (const QString &value : values) {
+        utf8.append(value.toUtf8());
+        pointers.append(utf8.last().constData());
+    }
+    // ippAddStrings copies the values.
+    ippAddStrings(m_request.get(), group, valueTag, name, static_cast<int>(pointers.size()), nullptr,
+                  pointers.constData());
+}
+
+bool IPPRequest::Execute(const char *resource)
+{
+    if (!m_request)
+        return false;
+    const QByteArray target = resource ? QByteArray(resource) : m_resource.toUtf8();
+    if (target.isEmpty())
+        return false;
+
+    s_savedOffered = false;
+    m_connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                    ConnectTimeoutMs, nullptr));
+    if (!m_connection)
+        return false;
+    httpSetTimeout(m_connection.get(), AnswerTimeoutSeconds, nullptr, nullptr);
+
+    IPPLog::line(IPPLog::Request, "Requesting operation 0x%x...", static_cast<unsigned>(m_operation));
+    const QByteArray file = QFile::encodeName(m_fileName);
+    // cupsDoFileRequest frees the request whatever happens.
+    m_response.reset(cupsDoFileRequest(m_connection.get(), m_request.release(), target.constData(),
+                                       m_fileName.isEmpty() ? nullptr : file.constData()));
+    if (!m_response) {
+        IPPLog::line(IPPLog::Request, "Requesting failed!\n");
+        IPPLog::flush(IPPLog::Request);
+        return false;
+    }
+    IPPLog::line(IPPLog::Request, "Result status: %s\n",
+                 statusText(ippGetStatusCode(m_response.get())).toLocal8Bit().constData());
+    IPPLog::flush(IPPLog::Request);
+    if (ippGetState(m_response.get()) == IPP_STATE_ERROR)
+        return false;
+    if (!s_savedPassword.isNull())
+        s_rootAuthenticated = true;
+    return true;
+}
+
+QString IPPRequest::statusText(int status)
+{
+    const char *text = nullptr;
+    switch (status) {
+    case 0x0000: text = "OK"; break;
+    case 0x0001: text = "IPP_OK_SUBST - OK but subst ???"; break;
+    case 0x0002: text = "IPP_OK_CONFLICT - OK but conflict ???"; break;
+    case 0x0400: text = "IPP_BAD_REQUEST - Bad request"; break;
+    case 0x0401: text = "IPP_FORBIDDEN - Operation forbidden"; break;
+    case 0x0402: text = "IPP_NOT_AUTHENTICATED - Not authenticated. Perhaps wrong password"; break;
+    case 0x0403: text = "IPP_NOT_AUTHORIZED - Not authorized"; break;
+    case 0x0404: text = "IPP_NOT_POSSIBLE - Not possible"; break;
+    case 0x0405: text = "IPP_TIMEOUT - Request timeout"; break;
+    case 0x0406: text = "IPP_NOT_FOUND - Not found"; break;
+    case 0x0407: text = "IPP_GONE - Gone..."; break;
+    case 0x0408: text = "IPP_REQUEST_ENTITY - Request entity ???"; break;
+    case 0x0409: text = "IPP_REQUEST_VALUE - Request value ???"; break;
+    case 0x040A: text = "IPP_DOCUMENT_FORMAT - Document format"; break;
+    case 0x040B: text = "IPP_ATTRIBUTES - Attributes ???"; break;
+    case 0x040C: text = "IPP_URI_SCHEME - URI sheme"; break;
+    case 0x040D: text = "IPP_CHARSET - Charset"; break;
+    case 0x040E: text = "IPP_CONFLICT - Conflict"; break;
+    case 0x0500: text = "IPP_INTERNAL_ERROR - Internal error"; break;
+    case 0x0501: text = "IPP_OPERATION_NOT_SUPPORTED - Operation not supported"; break;
+    case 0x0502: text = "IPP_SERVICE_UNAVAILABLE - Serice unavailable"; break;
+    case 0x0503: text = "IPP_VERSION_NOT_SUPPORTED - Version not supported"; break;
+    case 0x0505: text = "IPP_TEMPORARY_ERROR - Temporary error"; break;
+    case 0x0506: text = "IPP_NOT_ACCEPTING - Not accepting"; break;
+    case 0x0507: text = "IPP_PRINTER_BUSY - Printer busy"; break;
+    default:
+        return QString::asprintf("Unknown code (%d=0x%x)", status, static_cast<unsigned>(status));
+    }
+    return QString::fromLatin1(text);
+}
+
+void IPPRequest::setPasswordAsker(PasswordAsker asker)
+{
+    s_asker = asker;
+}
+
+const char *IPPRequest::passwordCallback(const char * /*prompt*/)
+{
+    if (!s_savedPassword.isNull() && s_rootAuthenticated && !s_savedOffered) {
+        s_savedOffered = true;
+        return s_passwordBytes.constData();
+    }
+    s_rootAuthenticated = false;
+    QString typed;
+    const bool confirmed = (s_asker ? s_asker : &askRootPassword)(&typed);
+    wipe(s_passwordBytes);
+    if (!confirmed) {
+        s_savedPassword = QString();
+        return nullptr;
+    }
+    s_savedPassword = typed.isNull() ? QString(QLatin1String("")) : typed;
+    // The password as the system's tools would pass it: in the locale's encoding.
+    s_passwordBytes = s_savedPassword.toLocal8Bit();
+    s_savedOffered = true;
+    return s_passwordBytes.constData();
+}
+
+bool IPPRequest::rootAuthenticated()
+{
+    return s_rootAuthenticated;
+}
+
+bool IPPRequest::hasSavedPassword()
+{
+    return !s_savedPassword.isNull();
+}
+
+void IPPRequest::forgetPassword()
+{
+    s_savedPassword = QString();
+    wipe(s_passwordBytes);
+    s_rootAuthenticated = getuid() == 0;
+}

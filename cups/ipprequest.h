@@ -1,0 +1,87 @@
+#ifndef QUEUEWIZ_IPPREQUEST_H
+#define QUEUEWIZ_IPPREQUEST_H
+
+#include "cupsptr.h"
+
+#include <QString>
+#include <QStringList>
+
+// One IPP request to the CUPS scheduler: built by a constructor (the classes
+// of namespace Requests fix operation, resource and the usual attributes),
+// completed with the adders, sent once with Execute and destroyed. The answer
+// lives as long as the object.
+//
+// The class also keeps the process-wide authentication state: every request
+// is made as user root; when the scheduler asks for a password, the user is
+// asked for the root password once, and the answer is offered again without
+// asking while the scheduler keeps accepting it.
+class IPPRequest
+{
+public:
+    // Starts a request with the operation code and the charset and natural
+    // language attributes.
+    explicit IPPRequest(ipp_op_t operation);
+    virtual ~IPPRequest();
+    IPPRequest(const IPPRequest &) = delete;
+    IPPRequest &operator=(const IPPRequest &) = delete;
+
+    // Attribute adders; no-ops once the request has been sent. A null string
+    // becomes "" except for URIs, which are added as they are.
+    void addURI(const char *name, const char *value, ipp_tag_t group = IPP_TAG_OPERATION);
+    void addName(const char *name, const char *value, ipp_tag_t group = IPP_TAG_OPERATION);
+    void addText(const char *name, const char *value, ipp_tag_t group = IPP_TAG_OPERATION);
+    void addMimeType(const char *name, const char *value, ipp_tag_t group = IPP_TAG_OPERATION);
+    void addInteger(const char *name, int value, ipp_tag_t valueTag = IPP_TAG_ENUM,
+                    ipp_tag_t group = IPP_TAG_OPERATION);
+    void addBoolean(const char *name, char value, ipp_tag_t group = IPP_TAG_OPERATION);
+    // One URI attribute with a value per list element, in order; nothing
+    // for an empty list.
+    void addURIList(const char *name, const QStringList &values, ipp_tag_t group = IPP_TAG_OPERATION);
+    // The same for keywords, e.g. "requested-attributes".
+    void addKeywordList(const char *name, const QStringList &values, ipp_tag_t group = IPP_TAG_OPERATION);
+
+    // Sends the request to resource (or, when null, to resource()) on the
+    // scheduler of cupsServer()/ippPort(), uploading fileName() if set. True
+    // when an answer arrived that could be read; the IPP status code of the
+    // answer is the caller's business. A request is sent at most once.
+    virtual bool Execute(const char *resource = nullptr);
+
+    QString resource() const { return m_resource; }
+    void setResource(const QString &resource) { m_resource = resource; }
+    QString fileName() const { return m_fileName; }
+    void setFileName(const QString &fileName) { m_fileName = fileName; }
+    ipp_op_t operation() const { return m_operation; }
+    // The request being built; nullptr once it has been sent.
+    ipp_t *request() const { return m_request.get(); }
+    // The answer; nullptr until one arrived.
+    ipp_t *response() const { return m_response.get(); }
+
+    // The fixed text of an IPP status code for logs and messages.
+    static QString statusText(int status);
+
+    // Asks the user for the root password; returns false when cancelled.
+    using PasswordAsker = bool (*)(QString *password);
+    // Replaces the password dialog (tests answer without a window); nullptr
+    // restores the dialog.
+    static void setPasswordAsker(PasswordAsker asker);
+    // The callback that libcups calls when the scheduler wants a password.
+    static const char *passwordCallback(const char *prompt);
+    static bool rootAuthenticated();
+    static bool hasSavedPassword();
+    // Forgets the saved password; the next demand asks the user again.
+    static void forgetPassword();
+
+private:
+    static void setUpAuthentication();
+    void addString(ipp_tag_t valueTag, const char *name, const char *value, ipp_tag_t group);
+    void addStringList(ipp_tag_t valueTag, const char *name, const QStringList &values, ipp_tag_t group);
+
+    QString m_resource;
+    IppPtr m_request;
+    IppPtr m_response;
+    HttpPtr m_connection;
+    QString m_fileName;
+    ipp_op_t m_operation;
+};
+
+#endif
