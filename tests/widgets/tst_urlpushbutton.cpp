@@ -1,0 +1,90 @@
+#include "browserlauncher.h"
+#include "urlpushbutton.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest>
+
+class TestUrlPushButton : public QObject
+{
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+
+    QString path(const QString &name) const { return m_dir.filePath(name); }
+
+    // A browser that writes its name and arguments, one a line, to "out".
+    QString fakeBrowser(const QString &name) const
+    {
+        QFile script(path(name));
+        script.open(QIODevice::WriteOnly);
+        script.write(QStringLiteral("#!/bin/sh\nprintf '%s\\n' \"$0\" \"$@\" > '%1.tmp' && mv '%1.tmp' '%1'\n")
+                         .arg(path("out")).toLocal8Bit());
+        script.setPermissions(script.permissions() | QFileDevice::ExeOwner);
+        return script.fileName();
+    }
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not).*"))); }
+    void cleanup() { BrowserLauncher::setCandidates({}); }
+
+    // Existence alone counts: the files here are not executable.
+    void findBrowser_data()
+    {
+        QTest::addColumn<QStringList>("existing");
+        QTest::addColumn<QString>("chosen");
+
+        QTest::newRow("first existing wins") << QStringList{"firefox", "opera"} << "firefox";
+        QTest::newRow("a later one") << QStringList{"mozilla-firefox"} << "mozilla-firefox";
+        QTest::newRow("none") << QStringList{} << "";
+    }
+
+    void findBrowser()
+    {
+        QFETCH(QStringList, existing);
+        QFETCH(QString, chosen);
+
+        QTemporaryDir dir;
+        for (const QString &name : existing)
+            QFile(dir.filePath(name)).open(QIODevice::WriteOnly);
+        BrowserLauncher::setCandidates({dir.filePath("firefox"), dir.filePath("opera"), dir.filePath("mozilla-firefox")});
+        QCOMPARE(BrowserLauncher::findBrowser(), chosen.isEmpty() ? QString() : dir.filePath(chosen));
+    }
+
+    // The address reaches the shell unquoted, so a blank splits it.
+    void buttonOpensItsAddress()
+    {
+        BrowserLauncher::setCandidates({path("missing"), fakeBrowser("first"), fakeBrowser("second")});
+        URLPushButton button(nullptr, "HelpButton");
+        QCOMPARE(button.objectName(), QStringLiteral("HelpButton"));
+        QVERIFY(button.setProperty("url", QStringLiteral("file:///opt/help page.htm")));
+        button.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&button));
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QTRY_VERIFY(QFile::exists(path("out")));
+        QFile out(path("out"));
+        QVERIFY(out.open(QIODevice::ReadOnly));
+        QCOMPARE(QString::fromLocal8Bit(out.readAll()), path("first") + "\nfile:///opt/help\npage.htm\n");
+    }
+
+    void noBrowserTellsTheAddress()
+    {
+        BrowserLauncher::setCandidates({path("none")});
+        QString title, text;
+        QTimer::singleShot(0, [&] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            title = box->windowTitle();
+            text = box->text();
+            box->accept();
+        });
+        BrowserLauncher::launch(QStringLiteral("http://127.0.0.1/help.htm"), nullptr);
+        QCOMPARE(title, QStringLiteral("Warning"));
+        QCOMPARE(text, QStringLiteral("Web browser not found.\nUse that address:\nhttp://127.0.0.1/help.htm"));
+    }
+};
+
+QTEST_MAIN(TestUrlPushButton)
+#include "tst_urlpushbutton.moc"
