@@ -1,0 +1,7 @@
+#include "ppdbooleanviewbase.h"
+
+PPDBooleanViewBase::PPDBooleanViewBase(QWidget *parent)
+    : QWidget(parent)
+{
+    setupUi(this);
+}

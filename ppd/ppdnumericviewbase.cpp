@@ -1,0 +1,7 @@
+#include "ppdnumericviewbase.h"
+
+PPDNumericViewBase::PPDNumericViewBase(QWidget *parent)
+    : QWidget(parent)
+{
+    setupUi(this);
+}
