@@ -3,11 +3,13 @@
 #include "commandlineoptions.h"
 #include "oemconfig.h"
 #include "qtsingleapplication.h"
+#include "queuewizuiloader.h"
 #include "uipaths.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFont>
+#include <QLayout>
 #include <QLocale>
 #include <QTranslator>
 
@@ -104,6 +106,25 @@ int queuewizMain(int argc, char **argv)
     QFont::insertSubstitution(QStringLiteral("Helvetica"), QStringLiteral("Adobe Helvetica"));
 
     const UiPaths paths = UiPaths::resolve(options, QString::fromLocal8Bit(actx.shareDir));
-    (void)paths;
-    return 0;
+
+    UiLoader::loadImages(paths.res);
+    UiLoader::loadImages(paths.resTitle);
+
+    std::unique_ptr<AddPrinterWizard> wizard(QueuewizUiLoader::load(paths.ui, paths.uiTitle, nullptr));
+    if (!wizard) {
+        qWarning("Failed to load widget from <%s>", qPrintable(paths.ui));
+        // Qt 6 has no global GUI lock to give back here.
+        return -2;
+    }
+
+    // A second start of the program brings this wizard to the front.
+    app.setMainWidget(wizard.get());
+    QObject::connect(&app, &QtSingleApplication::messageReceived, wizard.get(), &QWidget::raise);
+    QObject::connect(&app, &QGuiApplication::lastWindowClosed, &app, &QCoreApplication::quit);
+
+    wizard->show();
+    if (QLayout *layout = wizard->layout())
+        layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    return app.exec();
 }

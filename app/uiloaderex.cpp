@@ -1,0 +1,87 @@
+#include "uiloaderex.h"
+
+#include "softassert.h"
+
+#include <QBuffer>
+#include <QDomDocument>
+#include <QFile>
+#include <QTextStream>
+#include <QWidget>
+
+UiLoaderEx::UiLoaderEx(QObject *parent)
+    : UiLoader(parent)
+{
+}
+
+QWidget *UiLoaderEx::loadAs(const QString &fileName, const QString &className, QWidget *parent)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return nullptr;
+    return loadAs(&file, className, parent);
+}
+
+QWidget *UiLoaderEx::loadAs(QIODevice *device, const QString &className, QWidget *parent)
+{
+    if (className.isEmpty())
+        return load(device, parent);
+
+    QDomDocument doc;
+    QString error;
+    int line = 0;
+    int column = 0;
+    if (!doc.setContent(device, &error, &line, &column))
+        return nullptr;
+
+    QDomElement widget;
+    for (QDomNode n = doc.documentElement().firstChild(); !n.isNull(); n = n.nextSibling()) {
+        if (n.isElement() && n.nodeName() == QLatin1String("widget")) {
+            widget = n.toElement();
+            break;
+        }
+    }
+    const QString fileClass = widget.attribute(QStringLiteral("class"));
+    if (fileClass.isEmpty()) {
+        qWarning("can't find 'class' attribute");
+        return nullptr;
+    }
+    widget.setAttribute(QStringLiteral("class"), className);
+
+    QBuffer buffer;
+    buffer.open(QIODevice::ReadWrite);
+    {
+        QTextStream stream(&buffer);
+        doc.save(stream, 1);
+    }
+    buffer.seek(0);
+    QWidget *w = load(&buffer, parent);
+    if (!w)
+        return nullptr;
+
+    const QString created = QString::fromLatin1(w->metaObject()->className());
+    softAssert(created == className, "w->qtx_className() == className", "uiloaderex", 68);
+
+    if (standsFor(w, fileClass) && created == className)
+        return w;
+    qWarning("wrong className class <%s> is NOT inherits <%s>", qPrintable(className), qPrintable(fileClass));
+    delete w;
+    return nullptr;
+}
+
+// A form is drawn for one toolkit class, with the children and properties
+// that class needs (a wizard form has pages, a dialog form has none). So the
+// program class must derive from the form's class, and no toolkit class may
+// stand between them: a wizard may use a QWizard form but not a QDialog one.
+bool UiLoaderEx::standsFor(const QWidget *widget, const QString &formClass)
+{
+    const auto isToolkitClass = [](const char *name) {
+        return name[0] == 'Q' && name[1] >= 'A' && name[1] <= 'Z';
+    };
+    for (const QMetaObject *mo = widget->metaObject(); mo; mo = mo->superClass()) {
+        if (formClass == QLatin1String(mo->className()))
+            return true;
+        if (isToolkitClass(mo->className()))
+            return false;
+    }
+    return false;
+}

@@ -1,0 +1,55 @@
+#ifndef QUEUEWIZ_UILOADEREX_H
+#define QUEUEWIZ_UILOADEREX_H
+
+#include "uiloader.h"
+
+#include <QWidget>
+
+class QIODevice;
+
+// Loads a form as a given program class: the top-level class of the form is
+// rewritten before loading, so that createWidget() makes the program's own
+// class, which must then be a kind of the class the form was drawn for.
+class UiLoaderEx : public UiLoader
+{
+    Q_OBJECT
+
+public:
+    explicit UiLoaderEx(QObject *parent = nullptr);
+
+    // Nothing when the file can't be opened or read, or the class is wrong.
+    QWidget *loadAs(const QString &fileName, const QString &className, QWidget *parent = nullptr);
+    // An empty className loads the form as it stands.
+    QWidget *loadAs(QIODevice *device, const QString &className, QWidget *parent = nullptr);
+
+    // Whether a widget may stand for a form drawn for formClass.
+    static bool standsFor(const QWidget *widget, const QString &formClass);
+
+    // The typed check after loadAs(): a T, bound by its setupUi(), or
+    // nothing (the widget is then deleted).
+    template <class T>
+    static T *setupAs(QWidget *widget);
+};
+
+template <class T>
+T *UiLoaderEx::setupAs(QWidget *widget)
+{
+    if (!widget)
+        return nullptr;
+    const char *requested = T::staticMetaObject.className();
+    T *typed = qobject_cast<T *>(widget);
+    if (!typed || qstrcmp(widget->metaObject()->className(), requested) != 0) {
+        qWarning("loadAs failed: unexpected className <%s> (requested <%s>)", widget->metaObject()->className(),
+                 requested);
+        delete widget;
+        return nullptr;
+    }
+    if (!typed->setupUi()) {
+        qWarning("setupUi failed");
+        delete typed;
+        return nullptr;
+    }
+    return typed;
+}
+
+#endif

@@ -1,0 +1,193 @@
+#include "testpaths.h"
+#include "wizardpagetitle.h"
+#include "wizardpagetitleuiloader.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+constexpr int BlockWidth = 360;
+
+const QString LongText = QStringLiteral(
+    "Choose the port the printer will use. For a network printer or a file, double-click its entry and type "
+    "the address of the printer, for example socket://192.168.1.20 or lpd://server/queue.");
+
+std::unique_ptr<WizardPageTitle> loadTitle()
+{
+    std::unique_ptr<WizardPageTitle> title(WizardPageTitleUiLoader::registered()->loadTitle(
+        TestPaths::sourceDir() + QStringLiteral("/ui/wizardpagetitle.ui"), nullptr));
+    if (title)
+        title->setFixedWidth(BlockWidth);
+    return title;
+}
+
+QLabel *label(const WizardPageTitle &title, const char *name)
+{
+    return title.findChild<QLabel *>(QLatin1String(name));
+}
+
+struct Sizes
+{
+    int title;
+    int subTitle;
+};
+
+Sizes fontSizes(const WizardPageTitle &title)
+{
+    return { label(title, "titleLabel")->font().pointSize(), label(title, "subTitleLabel")->font().pointSize() };
+}
+
+// The height title and subtitle take with both labels at a point size (or
+// at the form's fonts for 0), laid out in a block as wide as the tested one.
+int neededHeight(const QString &text, int size)
+{
+    std::unique_ptr<WizardPageTitle> probe = loadTitle();
+    if (!probe)
+        return -1;
+    probe->setFixedHeight(1000);
+    QLabel *title = label(*probe, "titleLabel");
+    QLabel *subTitle = label(*probe, "subTitleLabel");
+    for (QLabel *l : { title, subTitle }) {
+        if (size > 0) {
+            QFont f = l->font();
+            f.setPointSize(size);
+            l->setFont(f);
+        }
+    }
+    subTitle->setText(text);
+    probe->show();
+    probe->layout()->activate();
+    QLayout *labels = nullptr;
+    for (QLayout *l : probe->findChildren<QLayout *>()) {
+        if (l->indexOf(title) >= 0)
+            labels = l;
+    }
+    const QMargins m = labels->contentsMargins();
+    return title->sizeHint().height() + subTitle->heightForWidth(subTitle->width()) + m.top() + m.bottom()
+        + labels->spacing();
+}
+
+} // namespace
+
+class TestWizardPageTitle : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not).*")));
+        qunsetenv("NOPAGETITLEADJUST");
+    }
+    void cleanup() { qunsetenv("NOPAGETITLEADJUST"); }
+
+    void fitting_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("steps");       // block height fitting the text after so many steps
+        QTest::addColumn<bool>("noAdjust");
+        QTest::addColumn<int>("shrunkBy");    // 0: the form's fonts
+
+        QTest::newRow("fits") << QStringLiteral("A short line.") << 0 << false << 0;
+        QTest::newRow("one step") << LongText << 1 << false << 1;
+        QTest::newRow("two steps") << LongText << 2 << false << 2;
+        QTest::newRow("two steps, NOPAGETITLEADJUST") << LongText << 2 << true << 0;
+    }
+
+    void fitting()
+    {
+        QFETCH(QString, text);
+        QFETCH(int, steps);
+        QFETCH(bool, noAdjust);
+        QFETCH(int, shrunkBy);
+
+        std::unique_ptr<WizardPageTitle> title = loadTitle();
+        QVERIFY(title);
+        const int base = title->font().pointSize();
+        const Sizes form = fontSizes(*title);
+        int height = title->height();
+        if (steps > 0) {
+            height = neededHeight(text, base - steps);
+            // Each step up needs more room, or the case proves nothing.
+            QVERIFY(neededHeight(text, base - steps + 1) > height);
+            QVERIFY(neededHeight(text, 0) > height);
+        } else {
+            QVERIFY(neededHeight(text, 0) <= height);
+        }
+        title->setFixedHeight(height);
+        title->show();
+        QVERIFY(QTest::qWaitForWindowExposed(title.get()));
+
+        if (noAdjust)
+            qputenv("NOPAGETITLEADJUST", "");
+        title->setSubTitle(text);
+        QCOMPARE(title->subTitle(), text);
+        const Sizes now = fontSizes(*title);
+        if (shrunkBy == 0) {
+            QCOMPARE(now.title, form.title);
+            QCOMPARE(now.subTitle, form.subTitle);
+        } else {
+            QCOMPARE(now.title, base - shrunkBy);
+            QCOMPARE(now.subTitle, base - shrunkBy);
+        }
+    }
+
+    void smallestSize()
+    {
+        std::unique_ptr<WizardPageTitle> title = loadTitle();
+        QVERIFY(title);
+        title->setFixedHeight(20);
+        title->show();
+        title->setSubTitle(LongText + LongText);
+        QCOMPARE(fontSizes(*title).title, 7);
+        QCOMPARE(fontSizes(*title).subTitle, 7);
+    }
+
+    // Fitting starts from the form's fonts: a short subtitle after a long
+    // one gets them back.
+    void shorterSubtitleAfterLonger()
+    {
+        std::unique_ptr<WizardPageTitle> title = loadTitle();
+        QVERIFY(title);
+        const Sizes form = fontSizes(*title);
+        title->show();
+        title->setSubTitle(LongText + LongText);
+        QVERIFY(fontSizes(*title).title < form.title);
+        title->setSubTitle(QStringLiteral("Short."));
+        QCOMPARE(fontSizes(*title).title, form.title);
+        QCOMPARE(fontSizes(*title).subTitle, form.subTitle);
+    }
+
+    // A subtitle set before the block is shown is fitted when it appears.
+    void fittedWhenShown()
+    {
+        std::unique_ptr<WizardPageTitle> title = loadTitle();
+        QVERIFY(title);
+        const Sizes form = fontSizes(*title);
+        title->setSubTitle(LongText + LongText);
+        QCOMPARE(fontSizes(*title).title, form.title);
+        title->show();
+        QVERIFY(fontSizes(*title).title < form.title);
+    }
+
+    void titleNeverChangesFonts()
+    {
+        std::unique_ptr<WizardPageTitle> title = loadTitle();
+        QVERIFY(title);
+        const Sizes form = fontSizes(*title);
+        title->show();
+        title->setTitle(LongText);
+        QCOMPARE(title->title(), LongText);
+        QCOMPARE(fontSizes(*title).title, form.title);
+        QCOMPARE(fontSizes(*title).subTitle, form.subTitle);
+        title->resetTitle();
+        QVERIFY(title->title().isEmpty());
+    }
+};
+
+QTEST_MAIN(TestWizardPageTitle)
+#include "tst_wizardpagetitle.moc"

@@ -1,0 +1,170 @@
+#include "AddPrinterWizard.h"
+#include "drivermatcher.h"
+#include "localdevicelist.h"
+#include "pixmapmanager.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+QMap<QString, CUPSDriver> sampleDrivers()
+{
+    QMap<QString, CUPSDriver> drivers;
+    const auto add = [&](const QString &key, const QString &make, const QString &model, const QString &lang) {
+        drivers.insert(key, CUPSDriver(make, model, key.toLower().replace(' ', '-') + ".ppd", lang));
+    };
+    add("Acme ColorLaser 2550", "Acme", "Acme ColorLaser 2550", "en");
+    add("Acme Laser 1610 Series (de)", "Acme", "Acme Laser 1610 Series", "de");
+    add("Acme Laser 1610 Series (en)", "Acme", "Acme Laser 1610 Series", "en");
+    add("Acme Laser 16", "Acme", "Acme Laser 16", "en");
+    add("Acme MFP 4200 Series", "Acme", "Acme MFP 4200 Series", "en");
+    add("Acme MFP 4200DN Duplex", "Acme", "Acme MFP 4200DN Duplex", "en");
+    add("Globex PageWriter 40", "Globex", "Globex PageWriter 40", "en");
+    return drivers;
+}
+
+} // namespace
+
+class TestWizardParts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void driverMatch_data()
+    {
+        QTest::addColumn<QString>("model");
+        QTest::addColumn<QString>("make");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("driver");
+
+        QTest::newRow("model with Series left out") << "Laser 1610" << "Acme" << "C" << "Acme Laser 1610 Series (en)";
+        QTest::newRow("user's language first") << "Laser 1610" << "Acme" << "de_DE" << "Acme Laser 1610 Series (de)";
+        QTest::newRow("language without driver") << "Laser 1610" << "Acme" << "fr_FR" << "Acme Laser 1610 Series (en)";
+        QTest::newRow("maker named in the model") << "ACME Laser 1610" << "ACME Corp." << "C"
+                                                  << "Acme Laser 1610 Series (en)";
+        QTest::newRow("case and spacing ignored") << "colorlaser2550" << "" << "C" << "Acme ColorLaser 2550";
+        QTest::newRow("fewest added words") << "MFP 4200" << "Acme" << "C" << "Acme MFP 4200 Series";
+        QTest::newRow("suffix after the number") << "MFP 4200DN" << "Acme" << "C" << "Acme MFP 4200DN Duplex";
+        QTest::newRow("numbers must all be there") << "Laser 1620" << "Acme" << "C" << "";
+        QTest::newRow("a number alone is no prefix") << "Laser 161" << "Acme" << "C" << "";
+        QTest::newRow("other maker's word only") << "PageWriter" << "Globex" << "C" << "Globex PageWriter 40";
+        QTest::newRow("maker's name only") << "Acme" << "Acme" << "C" << "";
+        QTest::newRow("no model") << "" << "Acme" << "C" << "";
+    }
+
+    void driverMatch()
+    {
+        QFETCH(QString, model);
+        QFETCH(QString, make);
+        QFETCH(QString, language);
+        QFETCH(QString, driver);
+        QCOMPARE(DriverMatcher::bestMatch(sampleDrivers(), model, make, language), driver);
+    }
+
+    void deviceLabel_data()
+    {
+        QTest::addColumn<QString>("model");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("label");
+
+        QTest::newRow("model") << "Laser 1610" << "/dev/mfp0" << "Laser 1610 on /dev/mfp0";
+        QTest::newRow("no model") << "" << "/dev/mfp3" << "Unknown model on /dev/mfp3";
+        QTest::newRow("model holding ' on '") << "Print on Demand 5" << "/dev/mfp11"
+                                              << "Print on Demand 5 on /dev/mfp11";
+        QTest::newRow("not ASCII") << QString::fromUtf8("Drucker Ü 7") << "/dev/mfp1"
+                                   << QString::fromUtf8("Drucker Ü 7 on /dev/mfp1");
+    }
+
+    // The device path is read back from the label.
+    void deviceLabel()
+    {
+        QFETCH(QString, model);
+        QFETCH(QString, path);
+        QFETCH(QString, label);
+        QCOMPARE(LocalDeviceList::label(model, path), label);
+        QCOMPARE(LocalDeviceList::devicePathOf(label), path);
+    }
+
+    void proposedName_data()
+    {
+        QTest::addColumn<QString>("driver");
+        QTest::addColumn<QString>("name");
+
+        QTest::newRow("first word with a digit") << "Laser 1610 Series" << "1610";
+        QTest::newRow("no digit") << "Acme Deskjet" << "acme";
+        QTest::newRow("punctuation dropped") << "HP LaserJet 4-Plus" << "4plus";
+        QTest::newRow("language suffix") << "Acme Laser 1610 Series (en)" << "1610";
+        QTest::newRow("digit inside a word") << "Acme MFP4200dn" << "mfp4200dn";
+        QTest::newRow("leading blanks") << "   Globex  PageWriter" << "globex";
+        QTest::newRow("nothing usable") << "(+)" << "";
+        QTest::newRow("empty") << "" << "";
+    }
+
+    void proposedName()
+    {
+        QFETCH(QString, driver);
+        QFETCH(QString, name);
+        QCOMPARE(AddPrinterWizard::proposedName(driver), name);
+    }
+
+    void pictures_data()
+    {
+        QTest::addColumn<QString>("model");
+        QTest::addColumn<QString>("picture");
+
+        QTest::newRow("exact") << "Laser 1610" << "laser.png";
+        QTest::newRow("case and blanks ignored") << "  laser   1610 " << "laser.png";
+        QTest::newRow("longest entry in the name") << "Acme MFP 4200 Series" << "mfp-series.png";
+        QTest::newRow("shorter entry in the name") << "Acme MFP 3" << "mfp.png";
+        QTest::newRow("part of a word is no match") << "Laser 16100" << "";
+        QTest::newRow("built-in name") << "Scan 9" << "scanner";
+        QTest::newRow("not listed") << "Globex PageWriter 40" << "";
+        QTest::newRow("no model") << "" << "";
+    }
+
+    void pictures()
+    {
+        QFETCH(QString, model);
+        QFETCH(QString, picture);
+        QTemporaryDir share;
+        QFile ini(share.filePath("pictures.ini"));
+        QVERIFY(ini.open(QIODevice::WriteOnly));
+        ini.write("[Pictures]\n# model = picture\nLaser 1610 = laser.png\nMFP=mfp.png\nMFP 4200 Series=mfp-series.png\n"
+                  "Scan 9=scanner\n=nothing.png\nbroken line\n");
+        ini.close();
+        PixmapManager pixmaps(share.path());
+        const QString found = pixmaps.pictureName(model);
+        QCOMPARE(found, picture.isEmpty() || picture == "scanner" ? picture : share.filePath(picture));
+    }
+
+    // Pictures that can't be read give way to the built-in printer.
+    void pictureFallback()
+    {
+        QTemporaryDir share;
+        QFile ini(share.filePath("pictures.ini"));
+        QVERIFY(ini.open(QIODevice::WriteOnly));
+        ini.write("Laser 1610=missing.png\n");
+        ini.close();
+        QCOMPARE(PixmapManager(share.path()).picture("Laser 1610").toImage(),
+                 PixmapManager::genericPrinter().toImage());
+        QVERIFY(PixmapManager::genericPrinter().toImage() != PixmapManager::genericScanner().toImage());
+    }
+
+    // Other programs connect to the wizard by these signatures.
+    void slotTable()
+    {
+        const QMetaObject &mo = AddPrinterWizard::staticMetaObject;
+        QStringList signatures;
+        for (int i = mo.methodOffset(); i < mo.methodCount(); ++i)
+            signatures << QString::fromLatin1(mo.method(i).methodSignature());
+        QCOMPARE(signatures, (QStringList{ "OnPortChanged()", "OnPortRenaming(ListViewItemEx*,int,QString)",
+                                      "OnDriverChanged()", "OnNameChanged()", "PrintTestPage()",
+                                      "OnPrinterOptions()", "OnSearchNetworkButtonClicked()", "help()",
+                                      "reject()", "setPortType(int)", "OnLocalPrinterChanged(QString)",
+                                      "OnNetworkPrinterChanged(int)", "OnTestPrinterProcessExited()" }));
+    }
+};
+
+QTEST_MAIN(TestWizardParts)
+#include "tst_wizardparts.moc"

@@ -1,0 +1,425 @@
+#include "AddPrinterWizard.h"
+
+#include "browserlauncher.h"
+#include "cupsmanager.h"
+#include "drivermatcher.h"
+#include "layoutdump.h"
+#include "listviewitemex.h"
+#include "oemconfig.h"
+#include "printerportlistview.h"
+#include "softassert.h"
+#include "urlpushbutton.h"
+#include "waitcursor.h"
+#include "wizardpagetitle.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QLocale>
+#include <QLoggingCategory>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QRegularExpressionValidator>
+#include <QShortcut>
+#include <QUrl>
+
+#include <unistd.h>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcLayout, "queuewiz.layout", QtWarningMsg)
+
+constexpr int DriverFetchAttempts = 50;
+constexpr useconds_t DriverFetchPause = 200000;
+
+QString shareDir()
+{
+    return QString::fromLocal8Bit(actx.shareDir);
+}
+
+// Looks a child up by name and class among all descendants.
+template <class T>
+bool bind(QWidget *root, T *&member, const char *name)
+{
+    member = root->findChild<T *>(QLatin1String(name));
+    return member != nullptr;
+}
+
+} // namespace
+
+AddPrinterWizard::AddPrinterWizard(QWidget *parent, const QString &name)
+    : TitlelessWizard(parent, name)
+{
+}
+
+AddPrinterWizard::~AddPrinterWizard() = default;
+
+bool AddPrinterWizard::bindChildren()
+{
+    return bind(this, m_pConnectedPrintersGroup, "ConnectedPrintersGroup")
+        && bind(this, m_pConnectedButton, "ConnectedButton") && bind(this, m_pNetworkButton, "NetworkButton")
+        && bind(this, m_pOfflineButton, "OfflineButton") && bind(this, m_pConnectedList, "ConnectedList")
+        && bind(this, m_pNetworkList, "NetworkList") && bind(this, m_pSelectOnlineLabel, "SelectOnlineLabel")
+        && bind(this, m_pSelectNetworkLabel, "SelectNetworkLabel")
+        && bind(this, m_pConnectedImage, "ConnectedImage")
+        && bind(this, m_pSearchNetworkButton, "SearchNetworkButton")
+        && bind(this, m_pConfigureNetworkButton, "ConfigureNetworkButton")
+        && bind(this, m_pPortsView, "PortsView") && bind(this, m_pDriversList, "DriversList")
+        && bind(this, m_pNameEdit, "NameEdit") && bind(this, m_pLocationEdit, "LocationEdit")
+        && bind(this, m_pDescriptionEdit, "DescriptionEdit") && bind(this, m_pFinishText, "FinishText")
+        && bind(this, m_pTestButton, "TestButton") && bind(this, m_pOptionsButton, "OptionsButton");
+}
+
+bool AddPrinterWizard::setupUi()
+{
+    qCDebug(lcLayout).noquote() << LayoutDump::describe(this);
+
+    if (!bindChildren() || pageCount() <= FinishPage) {
+        qWarning("Invalid UI description");
+        return false;
+    }
+
+    hideMissingNetworkHelp();
+
+    m_portAssigned = false;
+    resetPortPage();
+    setBackEnabled(WelcomePage, false);
+
+    m_pPortTypes = new QButtonGroup(this);
+    m_pPortTypes->addButton(m_pConnectedButton, PortType_Connected);
+    m_pPortTypes->addButton(m_pNetworkButton, PortType_AutoNetwork);
+    m_pPortTypes->addButton(m_pOfflineButton, PortType_Manual);
+
+    m_groupTitleTemplate = m_pConnectedPrintersGroup->title();
+
+    m_pixmaps.load(shareDir());
+    findLocalDevices();
+    setPortType(PortType_Connected);
+    m_setupFinished = true;
+    m_pPortsView->setMfpMode(false);
+
+    fetchDrivers();
+
+    m_pNameEdit->setValidator(new QRegularExpressionValidator(
+        QRegularExpression(QStringLiteral("[\\d\\w_]+"), QRegularExpression::UseUnicodePropertiesOption),
+        m_pNameEdit));
+
+    setBackEnabled(FinishPage, false);
+    setFinishEnabled(FinishPage, true);
+
+    m_finishTemplate = m_pFinishText->text();
+
+    // Until the options dialog is wired to this button.
+    m_pOptionsButton->setEnabled(false);
+    m_pOptionsButton->setToolTip(tr("Driver options are not available yet."));
+
+    connectSlots();
+    OnDriverChanged();
+    OnNameChanged();
+
+    qCDebug(lcLayout).noquote() << LayoutDump::describe(this);
+    if (auto *title = findChild<WizardPageTitle *>(QStringLiteral("WizardPageTitle1"))) {
+        qCDebug(lcLayout).noquote() << LayoutDump::describe(title);
+        qCDebug(lcLayout).noquote() << LayoutDump::describe(title->findChild<QLabel *>(QStringLiteral("subTitleLabel")));
+    }
+    return true;
+}
+
+void AddPrinterWizard::connectSlots()
+{
+    connect(m_pPortsView, &QTreeWidget::itemSelectionChanged, this, &AddPrinterWizard::OnPortChanged);
+    connect(m_pPortsView, &ListViewEx::renameCanceled, this, &AddPrinterWizard::OnPortChanged);
+    connect(m_pPortsView, &ListViewEx::itemRenaming, this, &AddPrinterWizard::OnPortRenaming);
+    connect(m_pDriversList, &QListWidget::itemSelectionChanged, this, &AddPrinterWizard::OnDriverChanged);
+    connect(m_pNameEdit, &QLineEdit::textChanged, this, &AddPrinterWizard::OnNameChanged);
+    connect(m_pTestButton, &QPushButton::clicked, this, &AddPrinterWizard::PrintTestPage);
+    connect(m_pOptionsButton, &QPushButton::clicked, this, &AddPrinterWizard::OnPrinterOptions);
+    connect(m_pSearchNetworkButton, &QPushButton::clicked, this, &AddPrinterWizard::OnSearchNetworkButtonClicked);
+    connect(this, &QWizard::helpRequested, this, &AddPrinterWizard::help);
+    // QWizard has no key for its Help button.
+    auto *helpKey = new QShortcut(QKeySequence::HelpContents, this);
+    connect(helpKey, &QShortcut::activated, this, &AddPrinterWizard::help);
+    connect(m_pPortTypes, &QButtonGroup::idClicked, this, &AddPrinterWizard::setPortType);
+    connect(m_pConnectedList, &QComboBox::textActivated, this, &AddPrinterWizard::OnLocalPrinterChanged);
+    connect(m_pNetworkList, qOverload<int>(&QComboBox::activated), this, &AddPrinterWizard::OnNetworkPrinterChanged);
+}
+
+QString AddPrinterWizard::helpUrl(const QString &page)
+{
+    return QUrl::fromLocalFile(QDir(shareDir()).absoluteFilePath(QStringLiteral("help/") + page)).toString();
+}
+
+// A relative address names a page of the package's help folder.
+void AddPrinterWizard::hideMissingNetworkHelp()
+{
+    QUrl url(m_pConfigureNetworkButton->url());
+    if (url.isEmpty()) {
+        m_pConfigureNetworkButton->hide();
+        return;
+    }
+    if (url.isRelative()) {
+        url = QUrl(helpUrl(QString())).resolved(url);
+        m_pConfigureNetworkButton->setUrl(url.toString());
+    }
+    if (url.isLocalFile() && !QFileInfo::exists(url.toLocalFile()))
+        m_pConfigureNetworkButton->hide();
+}
+
+void AddPrinterWizard::fetchDrivers()
+{
+    WaitCursor wait;
+    m_pDriversList->clear();
+    m_drivers.clear();
+    // The scheduler may still be starting (e.g. right after the package was
+    // installed): ask again for about ten seconds.
+    bool ok = false;
+    for (int attempt = 0; attempt < DriverFetchAttempts && !ok; ++attempt) {
+        ok = CUPSManager::m_CUPSManagerInstance.listDrivers(m_drivers);
+        usleep(DriverFetchPause);
+    }
+    for (auto it = m_drivers.cbegin(); it != m_drivers.cend(); ++it)
+        m_pDriversList->addItem(it.key());
+
+    if (portTypeId() == PortType_Connected) {
+        if (const LocalDeviceList::Device *device = m_localDevices.find(m_pConnectedList->currentText()))
+            selectMatchingDriver(*device);
+    }
+}
+
+int AddPrinterWizard::portTypeId() const
+{
+    return m_pPortTypes ? m_pPortTypes->checkedId() : -1;
+}
+
+bool AddPrinterWizard::isDriverAssigned() const
+{
+    const QListWidgetItem *item = m_pDriversList ? m_pDriversList->currentItem() : nullptr;
+    return item && m_pDriversList->currentRow() >= 0 && item->isSelected();
+}
+
+bool AddPrinterWizard::isPrinterNameAssigned() const
+{
+    return m_pNameEdit && !m_pNameEdit->text().isEmpty();
+}
+
+// ---- port type page ---------------------------------------------------
+
+void AddPrinterWizard::setPortType(int id)
+{
+    m_setupFinished = false;
+    if (m_pPortTypes->checkedId() != id) {
+        if (QAbstractButton *button = m_pPortTypes->button(id))
+            button->setChecked(true);
+    }
+
+    m_pConnectedList->setEnabled(id == PortType_Connected);
+    m_pSelectOnlineLabel->setEnabled(id == PortType_Connected);
+    m_pSelectNetworkLabel->setEnabled(id == PortType_AutoNetwork);
+    m_pNetworkList->setEnabled(id == PortType_AutoNetwork);
+    // A search only makes sense for the network type.
+    m_pSearchNetworkButton->setEnabled(id == PortType_AutoNetwork);
+
+    bool ok = false;
+    switch (id) {
+    case PortType_Manual:
+        m_portAssigned = false;
+        resetPortPage();
+        setAppropriate(PortsPage, true);
+        setNextEnabled(PortTypePage, true);
+        return;
+    case PortType_Connected:
+        ok = !m_pConnectedList->currentText().isEmpty();
+        m_pConnectedButton->setEnabled(ok);
+        m_pConnectedList->setEnabled(ok);
+        m_pSelectOnlineLabel->setEnabled(ok);
+        if (ok)
+            applyLocalDevice(m_pConnectedList->currentText());
+        break;
+    case PortType_AutoNetwork:
+        ok = !m_pNetworkList->currentText().isEmpty();
+        m_pSelectNetworkLabel->setEnabled(ok);
+        m_pNetworkList->setEnabled(ok);
+        if (ok)
+            OnNetworkPrinterChanged(m_pNetworkList->currentIndex());
+        break;
+    default:
+        qWarning("Unknown port type identifier %d", id);
+        return;
+    }
+    setAppropriate(PortsPage, false);
+    setNextEnabled(PortTypePage, ok);
+}
+
+bool AddPrinterWizard::findLocalDevices()
+{
+    const bool found = m_localDevices.refresh();
+    m_pConnectedList->clear();
+    m_pConnectedList->addItems(m_localDevices.labels());
+    return found;
+}
+
+void AddPrinterWizard::OnLocalPrinterChanged(const QString &text)
+{
+    if (portTypeId() != PortType_Connected)
+        return;
+    applyLocalDevice(text);
+    setNextEnabled(PortTypePage, !text.isEmpty());
+}
+
+void AddPrinterWizard::OnNetworkPrinterChanged(int)
+{
+}
+
+void AddPrinterWizard::OnSearchNetworkButtonClicked()
+{
+}
+
+// ---- port page ----------------------------------------------------------
+
+void AddPrinterWizard::resetPortPage()
+{
+    m_pPortsView->clearSelection();
+    setNextEnabled(PortsPage, false);
+    m_pConnectedImage->setPixmap(PixmapManager::genericPrinter());
+}
+
+// The device's entry in PortsView is selected, so that the queue is created
+// with the URI of whatever PortsView has selected, whichever way it was chosen.
+void AddPrinterWizard::applyLocalDevice(const QString &label)
+{
+    const QString uri = QStringLiteral("mfp:") + LocalDeviceList::devicePathOf(label);
+    m_pPortsView->clearSelection();
+    m_pPortsView->selectURI(uri);
+    m_portAssigned = m_pPortsView->selectedURI() == uri;
+
+    const LocalDeviceList::Device *device = m_localDevices.find(label);
+    m_pConnectedImage->setPixmap(device ? m_pixmaps.picture(device->model) : PixmapManager::genericPrinter());
+    if (device)
+        selectMatchingDriver(*device);
+}
+
+void AddPrinterWizard::OnPortChanged()
+{
+    const QTreeWidgetItem *item = m_pPortsView->selectedItem();
+    const bool ok = item && item->parent() && m_pPortsView->isSelectionEditable();
+    m_portAssigned = ok;
+    setNextEnabled(PortsPage, ok);
+}
+
+void AddPrinterWizard::OnPortRenaming(ListViewItemEx *item, int column, const QString &text)
+{
+    const bool ok = item && item->isAcceptable(column, text);
+    m_portAssigned = ok;
+    setNextEnabled(PortsPage, ok);
+}
+
+// ---- driver and name pages ---------------------------------------------
+
+void AddPrinterWizard::selectMatchingDriver(const LocalDeviceList::Device &device)
+{
+    const QString key =
+        DriverMatcher::bestMatch(m_drivers, device.driverModel(), device.driverMake(), QLocale::system().name());
+    if (key.isEmpty())
+        return;
+    const QList<QListWidgetItem *> items = m_pDriversList->findItems(key, Qt::MatchExactly);
+    if (items.isEmpty())
+        return;
+    m_pDriversList->setCurrentItem(items.first());
+    items.first()->setSelected(true);
+    m_pDriversList->scrollToItem(items.first());
+}
+
+void AddPrinterWizard::OnDriverChanged()
+{
+    setNextEnabled(DriverPage, isDriverAssigned());
+}
+
+void AddPrinterWizard::OnNameChanged()
+{
+    setNextEnabled(NamePage, isPrinterNameAssigned());
+}
+
+QString AddPrinterWizard::proposedName(const QString &driverText)
+{
+    static const QRegularExpression modelToken(QStringLiteral("(\\S*\\d\\S*)"),
+                                               QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression blanks(QStringLiteral("\\s+"), QRegularExpression::UseUnicodePropertiesOption);
+    static const QRegularExpression notNameChar(QStringLiteral("[^\\d\\w_]"),
+                                                QRegularExpression::UseUnicodePropertiesOption);
+
+    const QRegularExpressionMatch m = modelToken.match(driverText);
+    QString token = m.hasMatch() ? m.captured(1) : driverText.split(blanks, Qt::SkipEmptyParts).value(0);
+    return token.remove(notNameChar).toLower();
+}
+
+void AddPrinterWizard::proposeName()
+{
+    softAssert(!isPrinterNameAssigned(), "!isPrinterNameAssigned()", "AddPrinterWizard", 1366);
+    softAssert(isDriverAssigned(), "isDriverAssigned()", "AddPrinterWizard", 1367);
+    const QListWidgetItem *item = m_pDriversList->currentItem();
+    m_pNameEdit->setText(proposedName(item ? item->text() : QString()));
+    m_pNameEdit->setFocus();
+}
+
+void AddPrinterWizard::pageEntered(int index)
+{
+    if (index != NamePage)
+        return;
+    softAssert(isPortAssigned(), "isPortAssigned()", "AddPrinterWizard", 591);
+    softAssert(isDriverAssigned(), "isDriverAssigned()", "AddPrinterWizard", 592);
+    // A name the user typed or accepted earlier is never replaced.
+    if (!isPrinterNameAssigned())
+        proposeName();
+}
+
+// Leaving the name page creates the printer; that step is not wired yet.
+bool AddPrinterWizard::pageLeaving(int)
+{
+    return true;
+}
+
+// ---- finish page --------------------------------------------------------
+
+void AddPrinterWizard::PrintTestPage()
+{
+}
+
+void AddPrinterWizard::OnPrinterOptions()
+{
+}
+
+void AddPrinterWizard::OnTestPrinterProcessExited()
+{
+}
+
+// ---- wizard buttons -------------------------------------------------------
+
+void AddPrinterWizard::help()
+{
+    BrowserLauncher::launch(helpUrl(QStringLiteral("PellomarAddPrinterWizard.htm")), this);
+}
+
+void AddPrinterWizard::reject()
+{
+    // On the last page the printer exists already: nothing to cancel.
+    if (currentId() == FinishPage) {
+        accept();
+        return;
+    }
+    QMessageBox box(QMessageBox::Warning, tr("Add printer Wizard"),
+                    tr("Printer is not installed. Are you sure to cancel wizard?"), QMessageBox::NoButton, this);
+    QPushButton *yes = box.addButton(tr("Yes"), QMessageBox::YesRole);
+    QPushButton *no = box.addButton(tr("No"), QMessageBox::NoRole);
+    box.setDefaultButton(no);
+    box.setEscapeButton(no);
+    box.exec();
+    if (box.clickedButton() == yes)
+        TitlelessWizard::reject();
+}

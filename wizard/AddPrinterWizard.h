@@ -1,0 +1,124 @@
+#ifndef QUEUEWIZ_ADDPRINTERWIZARD_H
+#define QUEUEWIZ_ADDPRINTERWIZARD_H
+
+#include "cupsdriver.h"
+#include "localdevicelist.h"
+#include "pixmapmanager.h"
+#include "titlelesswizard.h"
+
+#include <QMap>
+#include <QString>
+
+class ListViewItemEx;
+class PrinterPortListView;
+class QButtonGroup;
+class QComboBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QRadioButton;
+class URLPushButton;
+
+// The add-printer wizard. Its pages come from the form
+// "ui/AddPrinterWizardBase.ui"; setupUi() binds the form's widgets by name:
+// 0 welcome, 1 port type, 2 ports (only for a port chosen by hand),
+// 3 drivers, 4 name, 5 finish.
+class AddPrinterWizard : public TitlelessWizard
+{
+    Q_OBJECT
+
+public:
+    enum PortType { PortType_Connected = 0, PortType_AutoNetwork = 1, PortType_Manual = 2 };
+    enum Page { WelcomePage = 0, PortTypePage = 1, PortsPage = 2, DriverPage = 3, NamePage = 4, FinishPage = 5 };
+
+    explicit AddPrinterWizard(QWidget *parent = nullptr, const QString &name = QString());
+    ~AddPrinterWizard() override;
+
+    // Binds and wires the form, lists the local devices and the drivers;
+    // false ("Invalid UI description") when a widget is missing.
+    bool setupUi();
+
+    bool isPortAssigned() const { return m_portAssigned; }
+    bool isDriverAssigned() const;
+    bool isPrinterNameAssigned() const;
+    // The checked port type, -1 before setupUi().
+    int portTypeId() const;
+
+    const LocalDeviceList &localDevices() const { return m_localDevices; }
+    // The drivers on the driver page, by their display name.
+    const QMap<QString, CUPSDriver> &drivers() const { return m_drivers; }
+
+    // The name proposed for a driver's display name: its first word holding
+    // a digit, else its first word; only letters, digits and "_", in lower
+    // case ("Laser 1610 Series" gives "1610", "Acme Deskjet" gives "acme").
+    static QString proposedName(const QString &driverText);
+
+public slots:
+    virtual void OnPortChanged();
+    virtual void OnPortRenaming(ListViewItemEx *item, int column, const QString &text);
+    virtual void OnDriverChanged();
+    virtual void OnNameChanged();
+    virtual void PrintTestPage();
+    virtual void OnPrinterOptions();
+    virtual void OnSearchNetworkButtonClicked();
+    virtual void help();
+    void reject() override;
+    void setPortType(int id);
+    void OnLocalPrinterChanged(const QString &text);
+    void OnNetworkPrinterChanged(int index);
+    void OnTestPrinterProcessExited();
+
+protected:
+    void pageEntered(int index) override;
+    bool pageLeaving(int index) override;
+
+private:
+    bool bindChildren();
+    void hideMissingNetworkHelp();
+    void fetchDrivers();
+    void resetPortPage();
+    bool findLocalDevices();
+    void applyLocalDevice(const QString &label);
+    void selectMatchingDriver(const LocalDeviceList::Device &device);
+    void proposeName();
+    void connectSlots();
+    // A page of the package's help folder, as a file URL.
+    static QString helpUrl(const QString &page);
+
+    QGroupBox *m_pConnectedPrintersGroup = nullptr;
+    QRadioButton *m_pConnectedButton = nullptr;
+    QRadioButton *m_pNetworkButton = nullptr;
+    QRadioButton *m_pOfflineButton = nullptr;
+    QComboBox *m_pConnectedList = nullptr;
+    QComboBox *m_pNetworkList = nullptr;
+    QLabel *m_pSelectOnlineLabel = nullptr;
+    QLabel *m_pSelectNetworkLabel = nullptr;
+    QLabel *m_pConnectedImage = nullptr;
+    QPushButton *m_pSearchNetworkButton = nullptr;
+    URLPushButton *m_pConfigureNetworkButton = nullptr;
+    PrinterPortListView *m_pPortsView = nullptr;
+    QListWidget *m_pDriversList = nullptr;
+    QLineEdit *m_pNameEdit = nullptr;
+    QLineEdit *m_pLocationEdit = nullptr;
+    QLineEdit *m_pDescriptionEdit = nullptr;
+    QLabel *m_pFinishText = nullptr;
+    QPushButton *m_pTestButton = nullptr;
+    QPushButton *m_pOptionsButton = nullptr;
+
+    QButtonGroup *m_pPortTypes = nullptr;
+    LocalDeviceList m_localDevices;
+    QMap<QString, CUPSDriver> m_drivers;
+    PixmapManager m_pixmaps;
+    // The texts the form gives, before anything is filled in.
+    QString m_groupTitleTemplate;
+    QString m_finishTemplate;  // %1 name, %2 model, %3 device URI
+    // PortsView's selected entry is the port the queue will use.
+    bool m_portAssigned = false;
+    // Cleared while setPortType() runs, set once setupUi() has applied the
+    // first port type.
+    bool m_setupFinished = false;
+};
+
+#endif
