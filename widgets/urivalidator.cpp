@@ -103,7 +103,7 @@ QString UriValidator::prefix(int scheme)
 
 QValidator::State UriValidator::validate(QString &input, int &pos) const
 {
-    Q_UNUSED(pos);
+    const int fromEnd = static_cast<int>(input.size()) - pos;
     const QString head = prefix(m_scheme);
     QString rest = input;
     // Only a complete prefix is dropped; "ip" stays part of the host.
@@ -130,8 +130,11 @@ QValidator::State UriValidator::validate(QString &input, int &pos) const
         break;
     }
 
-    // Whatever the user deleted or typed, the result carries its scheme.
+    // Whatever the user deleted or typed, the result carries its scheme. The
+    // repairs work at the front (prefix, brackets), so the cursor keeps its
+    // place counted from the end.
     input = head + rest;
+    pos = qBound(0, static_cast<int>(input.size()) - fromEnd, static_cast<int>(input.size()));
     return ok ? Acceptable : Invalid;
 }
 
