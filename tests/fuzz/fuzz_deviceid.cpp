@@ -1,0 +1,54 @@
+// IEEE 1284 device IDs as printers report them: field look-up, fitting into
+// the record's field, and the parallel port's autoprobe text. Output buffers
+// sit between guard bytes that must stay untouched.
+#include "mfpinternal.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+
+namespace {
+
+template <size_t N>
+struct Guarded
+{
+    char before[16];
+    char buf[N];
+    char after[16];
+    Guarded()
+    {
+        memset(before, 0x5a, sizeof before);
+        memset(after, 0x5a, sizeof after);
+    }
+    void check() const
+    {
+        for (size_t i = 0; i < 16; ++i)
+            if (before[i] != 0x5a || after[i] != 0x5a)
+                abort();
+        if (!memchr(buf, '\0', N))
+            abort();
+    }
+};
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const std::string id(reinterpret_cast<const char *>(data), size);
+    static const char *const keys[] = { "MANUFACTURER", "MFG", "MODEL", "MDL", nullptr };
+
+    Guarded<64> value;
+    mfp_id_value(id.c_str(), keys, value.buf, sizeof value.buf);
+    value.check();
+
+    Guarded<120> fitted;
+    mfp_id_fit(id.c_str(), fitted.buf, sizeof fitted.buf);
+    fitted.check();
+
+    Guarded<1024> probed;
+    mfp_id_from_autoprobe(id.c_str(), probed.buf, sizeof probed.buf);
+    probed.check();
+    return 0;
+}

@@ -1,0 +1,41 @@
+// The rewrite of a PPD's "*Default" lines on any file content: lines of any
+// length, line ends of any kind, NUL bytes.
+#include "ppddialog.h"
+
+#include <cups/ppd.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+ppd_file_t *samplePpd()
+{
+    static ppd_file_t *ppd = [] {
+        const char *path = getenv("QW_FUZZ_PPD");
+        ppd_file_t *p = ppdOpenFile(path ? path : QW_FUZZ_DEFAULT_PPD);
+        if (!p)
+            abort();
+        ppdMarkDefaults(p);
+        return p;
+    }();
+    return ppd;
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    FILE *in = fmemopen(const_cast<uint8_t *>(data), size, "rb");
+    if (!in)
+        return 0;
+    FILE *out = fopen("/dev/null", "wb");
+    if (out) {
+        PPDDialog::rewriteDefaults(samplePpd(), in, out);
+        fclose(out);
+    }
+    fclose(in);
+    return 0;
+}
