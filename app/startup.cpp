@@ -4,14 +4,13 @@
 #include "oemconfig.h"
 #include "qtsingleapplication.h"
 #include "queuewizuiloader.h"
+#include "translations.h"
 #include "uipaths.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFont>
 #include <QLayout>
-#include <QLocale>
-#include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
@@ -67,17 +66,6 @@ void allowUsageWithoutDisplay(int argc, char **argv)
     }
 }
 
-void loadTranslations(QApplication &app)
-{
-    static const char *const names[] = { "queuewiz" };
-    const QString dir = QDir(QString::fromLocal8Bit(actx.shareDir)).filePath(QStringLiteral("tr"));
-    for (const char *name : names) {
-        auto translator = std::make_unique<QTranslator>(&app);
-        if (translator->load(QString::fromLatin1(name) + QLatin1Char('-') + QLocale::system().name(), dir))
-            app.installTranslator(translator.release());
-    }
-}
-
 } // namespace
 
 int queuewizMain(int argc, char **argv)
@@ -93,7 +81,7 @@ int queuewizMain(int argc, char **argv)
     if (app.sendMessage(QStringLiteral("Wake up!!!"), 5000))
         return 0;
 
-    loadTranslations(app);
+    installTranslations(app);
 
     app.initialize(true);
 
