@@ -6,6 +6,9 @@
 #include "layoutdump.h"
 #include "listviewitemex.h"
 #include "oemconfig.h"
+#include "papersize.h"
+#include "ppddialog.h"
+#include "printercreator.h"
 #include "printerportlistview.h"
 #include "softassert.h"
 #include "urlpushbutton.h"
@@ -23,6 +26,7 @@
 #include <QLocale>
 #include <QLoggingCategory>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -38,6 +42,8 @@ Q_LOGGING_CATEGORY(lcLayout, "queuewiz.layout", QtWarningMsg)
 
 constexpr int DriverFetchAttempts = 50;
 constexpr useconds_t DriverFetchPause = 200000;
+// How long closing the wizard waits for a test page still being sent.
+constexpr int TestPageExitWaitMs = 10000;
 
 QString shareDir()
 {
@@ -59,7 +65,15 @@ AddPrinterWizard::AddPrinterWizard(QWidget *parent, const QString &name)
 {
 }
 
-AddPrinterWizard::~AddPrinterWizard() = default;
+AddPrinterWizard::~AddPrinterWizard()
+{
+    // A test page on its way is not cut off by closing the wizard.
+    if (m_pTestPrinterProcess) {
+        m_pTestPrinterProcess->disconnect(this);
+        WaitCursor wait;
+        m_pTestPrinterProcess->waitForFinished(TestPageExitWaitMs);
+    }
+}
 
 bool AddPrinterWizard::bindChildren()
 {
@@ -115,10 +129,6 @@ bool AddPrinterWizard::setupUi()
     setFinishEnabled(FinishPage, true);
 
     m_finishTemplate = m_pFinishText->text();
-
-    // Until the options dialog is wired to this button.
-    m_pOptionsButton->setEnabled(false);
-    m_pOptionsButton->setToolTip(tr("Driver options are not available yet."));
 
     connectSlots();
     OnDriverChanged();
@@ -179,9 +189,9 @@ void AddPrinterWizard::fetchDrivers()
     m_drivers.clear();
     // The scheduler may still be starting (e.g. right after the package was
     // installed): ask again for about ten seconds.
-    bool ok = false;
-    for (int attempt = 0; attempt < DriverFetchAttempts && !ok; ++attempt) {
-        ok = CUPSManager::m_CUPSManagerInstance.listDrivers(m_drivers);
+    for (int attempt = 1; !CUPSManager::m_CUPSManagerInstance.listDrivers(m_drivers); ++attempt) {
+        if (attempt == DriverFetchAttempts)
+            break;
         usleep(DriverFetchPause);
     }
     for (auto it = m_drivers.cbegin(); it != m_drivers.cend(); ++it)
@@ -189,7 +199,7 @@ void AddPrinterWizard::fetchDrivers()
 
     if (portTypeId() == PortType_Connected) {
         if (const LocalDeviceList::Device *device = m_localDevices.find(m_pConnectedList->currentText()))
-            selectMatchingDriver(*device);
+            selectMatchingDriver(device->driverModel(), device->driverMake());
     }
 }
 
@@ -247,7 +257,9 @@ void AddPrinterWizard::setPortType(int id)
         m_pSelectNetworkLabel->setEnabled(ok);
         m_pNetworkList->setEnabled(ok);
         if (ok)
-            OnNetworkPrinterChanged(m_pNetworkList->currentIndex());
+            applyNetworkDevice(m_pNetworkList->currentIndex());
+        // A printer that offers no known protocol gives no port.
+        ok = ok && m_portAssigned;
         break;
     default:
         qWarning("Unknown port type identifier %d", id);
@@ -273,12 +285,57 @@ void AddPrinterWizard::OnLocalPrinterChanged(const QString &text)
     setNextEnabled(PortTypePage, !text.isEmpty());
 }
 
-void AddPrinterWizard::OnNetworkPrinterChanged(int)
-{
-}
-
 void AddPrinterWizard::OnSearchNetworkButtonClicked()
 {
+    if (!QW_CHECK(portTypeId() == PortType_AutoNetwork, "AddPrinterWizard", 1032)) {
+        qWarning("Selected port type is unexpected");
+        return;
+    }
+    QAbstractButton *button = m_pPortTypes->button(PortType_AutoNetwork);
+    if (!button) {
+        qWarning("Can't find port type button");
+        return;
+    }
+    m_pNetworkList->clear();
+    m_portAssigned = false;
+    m_pPortsView->clearSelection();
+
+    m_NetworkDevices.discover(actx.rootDir, actx.shareDir, CUPSManager::m_CUPSManagerInstance.CupsVersion);
+    for (NetworkDeviceList::size_type i = 0; i < m_NetworkDevices.count(); ++i)
+        m_pNetworkList->addItem(m_NetworkDevices.at(i).entryText());
+
+    // Next and the port follow the new list.
+    setPortType(m_pPortTypes->id(button));
+}
+
+void AddPrinterWizard::OnNetworkPrinterChanged(int index)
+{
+    if (portTypeId() != PortType_AutoNetwork)
+        return;
+    applyNetworkDevice(index);
+    setNextEnabled(PortTypePage, m_portAssigned);
+}
+
+void AddPrinterWizard::applyNetworkDevice(int index)
+{
+    m_portAssigned = false;
+    if (!softAssert(NetworkDeviceList::size_type(m_pNetworkList->count()) == m_NetworkDevices.count(),
+                    "NetworkDeviceList::size_type(NetworkList->count()) == m_NetworkDevices.count()",
+                    "AddPrinterWizard", 1117)
+        || !softAssert(0 <= index && NetworkDeviceList::size_type(index) < m_NetworkDevices.count(),
+                       "0 <= i && NetworkDeviceList::size_type(i) < m_NetworkDevices.count()", "AddPrinterWizard",
+                       1118))
+        return;
+
+    const NetworkDeviceList::Device &device = m_NetworkDevices.at(index);
+    const QString uri = device.deviceUri();
+    m_pConnectedImage->setPixmap(m_pixmaps.picture(device.description));
+    m_pPortsView->clearSelection();
+    if (uri.isEmpty())
+        return;
+    m_portAssigned = selectPort(uri);
+    if (m_portAssigned)
+        selectMatchingDriver(device.description, QString());
 }
 
 // ---- port page ----------------------------------------------------------
@@ -294,15 +351,31 @@ void AddPrinterWizard::resetPortPage()
 // with the URI of whatever PortsView has selected, whichever way it was chosen.
 void AddPrinterWizard::applyLocalDevice(const QString &label)
 {
-    const QString uri = QStringLiteral("mfp:") + LocalDeviceList::devicePathOf(label);
     m_pPortsView->clearSelection();
-    m_pPortsView->selectURI(uri);
-    m_portAssigned = m_pPortsView->selectedURI() == uri;
+    m_portAssigned = selectPort(QStringLiteral("mfp:") + LocalDeviceList::devicePathOf(label));
 
     const LocalDeviceList::Device *device = m_localDevices.find(label);
     m_pConnectedImage->setPixmap(device ? m_pixmaps.picture(device->model) : PixmapManager::genericPrinter());
     if (device)
-        selectMatchingDriver(*device);
+        selectMatchingDriver(device->driverModel(), device->driverMake());
+}
+
+bool AddPrinterWizard::selectPort(const QString &uri)
+{
+    // A network entry holds the last URI put into it; it has to begin with
+    // its bare scheme again to be found for another address.
+    const qsizetype schemeEnd = uri.indexOf(QLatin1String("://"));
+    if (schemeEnd > 0) {
+        const QString prefix = uri.left(schemeEnd + 3);
+        const QList<QTreeWidgetItem *> entries =
+            m_pPortsView->findItems(prefix, Qt::MatchStartsWith | Qt::MatchRecursive);
+        for (QTreeWidgetItem *entry : entries) {
+            if (entry->parent())
+                entry->setText(0, prefix);
+        }
+    }
+    m_pPortsView->selectURI(uri);
+    return m_pPortsView->selectedURI() == uri;
 }
 
 void AddPrinterWizard::OnPortChanged()
@@ -322,10 +395,9 @@ void AddPrinterWizard::OnPortRenaming(ListViewItemEx *item, int column, const QS
 
 // ---- driver and name pages ---------------------------------------------
 
-void AddPrinterWizard::selectMatchingDriver(const LocalDeviceList::Device &device)
+void AddPrinterWizard::selectMatchingDriver(const QString &model, const QString &make)
 {
-    const QString key =
-        DriverMatcher::bestMatch(m_drivers, device.driverModel(), device.driverMake(), QLocale::system().name());
+    const QString key = DriverMatcher::bestMatch(m_drivers, model, make, QLocale::system().name());
     if (key.isEmpty())
         return;
     const QList<QListWidgetItem *> items = m_pDriversList->findItems(key, Qt::MatchExactly);
@@ -379,24 +451,123 @@ void AddPrinterWizard::pageEntered(int index)
         proposeName();
 }
 
-// Leaving the name page creates the printer; that step is not wired yet.
-bool AddPrinterWizard::pageLeaving(int)
+// Leaving the name page creates the printer.
+bool AddPrinterWizard::pageLeaving(int index)
 {
+    return index != NamePage || commitPrinter();
+}
+
+// ---- creating the printer -----------------------------------------------
+
+bool AddPrinterWizard::commitPrinter()
+{
+    softAssert(isPortAssigned(), "isPortAssigned()", "AddPrinterWizard", 609);
+    softAssert(isDriverAssigned(), "isDriverAssigned()", "AddPrinterWizard", 610);
+    softAssert(isPrinterNameAssigned(), "isPrinterNameAssigned()", "AddPrinterWizard", 611);
+
+    const QString name = m_pNameEdit->text();
+    const PrinterCreator creator(CUPSManager::m_CUPSManagerInstance);
+    bool inUse = false;
+    {
+        WaitCursor wait;
+        inUse = creator.nameInUse(name);
+    }
+    if (inUse) {
+        showError(tr("Printer '%s' already exists! Choose another name.").replace(QLatin1String("%s"), name));
+        m_pNameEdit->setFocus();
+        m_pNameEdit->selectAll();
+        return false;
+    }
+
+    CUPSPrinter printer(name);
+    printer.setDeviceURI(m_pPortsView->selectedURI());
+    printer.setLocation(m_pLocationEdit->text());
+    printer.setInfo(m_pDescriptionEdit->text());
+    printer.setState(IPP_PSTATE_IDLE);
+    printer.setAcceptingJobs(true);
+    const QListWidgetItem *driver = m_pDriversList->currentItem();
+    printer.setDriver(m_drivers.value(driver ? driver->text() : QString()));
+
+    bool created = false;
+    {
+        WaitCursor wait;
+        created = creator.create(printer);
+        if (created) {
+            creator.applyPaperSize(name, defaultPaperSize());
+            printer.setDefault(creator.makeDefault(name));
+        }
+    }
+    if (!created) {
+        showError(tr("Can't add printer!"), CUPSManager::m_CUPSManagerInstance.lastStatusText());
+        return false;
+    }
+    m_newPrinter = printer;
+
+    m_pFinishText->setText(m_finishTemplate.arg(name.toHtmlEscaped(), m_newPrinter.Driver().Model().toHtmlEscaped(),
+                                                m_newPrinter.DeviceURI().toHtmlEscaped()));
+    // The queue exists now: there is nothing to go back to or to cancel.
+    setOption(QWizard::NoBackButtonOnLastPage, true);
+    setOption(QWizard::NoCancelButton, true);
     return true;
+}
+
+void AddPrinterWizard::showError(const QString &text, const QString &details)
+{
+    QMessageBox box(QMessageBox::Critical, tr("Error!"), text, QMessageBox::Ok, this);
+    box.setInformativeText(details);
+    box.exec();
 }
 
 // ---- finish page --------------------------------------------------------
 
 void AddPrinterWizard::PrintTestPage()
 {
+    // One test page at a time.
+    if (!softAssert(!m_pTestPrinterProcess, "!m_pTestPrinterProcess", "AddPrinterWizard", 672))
+        return;
+
+    CUPSPrinter printer;
+    bool found = false;
+    {
+        WaitCursor wait;
+        found = CUPSManager::m_CUPSManagerInstance.findPrinter(m_newPrinter.Name(), printer);
+    }
+    if (!found)
+        return;
+    const QString program = PrinterCreator::testPageProgram(QString::fromLocal8Bit(actx.rootDir));
+    if (program.isEmpty())
+        return;
+
+    auto *process = new QProcess(this);
+    process->setProcessEnvironment(PrinterCreator::cupsClientEnvironment());
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    connect(process, &QProcess::finished, this, &AddPrinterWizard::OnTestPrinterProcessExited);
+    process->start(program, {printer.Name()});
+    if (!process->waitForStarted()) {
+        delete process;
+        return;
+    }
+    m_pTestPrinterProcess = process;
+    m_pTestButton->setEnabled(false);
+}
+
+// The test page program exits with 1 when the scheduler took the page.
+void AddPrinterWizard::OnTestPrinterProcessExited()
+{
+    if (!m_pTestPrinterProcess)
+        return;
+    if (m_pTestPrinterProcess->exitStatus() != QProcess::NormalExit || m_pTestPrinterProcess->exitCode() == 0)
+        qWarning("TestPrinter failed\n");
+    m_pTestPrinterProcess->deleteLater();
+    m_pTestPrinterProcess = nullptr;
+    m_pTestButton->setEnabled(true);
 }
 
 void AddPrinterWizard::OnPrinterOptions()
 {
-}
-
-void AddPrinterWizard::OnTestPrinterProcessExited()
-{
+    PPDDialog::runForPrinter(m_newPrinter.Name(), this);
 }
 
 // ---- wizard buttons -------------------------------------------------------

@@ -2,7 +2,9 @@
 #define QUEUEWIZ_ADDPRINTERWIZARD_H
 
 #include "cupsdriver.h"
+#include "cupsprinter.h"
 #include "localdevicelist.h"
+#include "networkdevicelist.h"
 #include "pixmapmanager.h"
 #include "titlelesswizard.h"
 
@@ -17,6 +19,7 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QProcess;
 class QPushButton;
 class QRadioButton;
 class URLPushButton;
@@ -47,6 +50,9 @@ public:
     int portTypeId() const;
 
     const LocalDeviceList &localDevices() const { return m_localDevices; }
+    const NetworkDeviceList &networkDevices() const { return m_NetworkDevices; }
+    // The queue made when the name page was left; empty before.
+    const CUPSPrinter &newPrinter() const { return m_newPrinter; }
     // The drivers on the driver page, by their display name.
     const QMap<QString, CUPSDriver> &drivers() const { return m_drivers; }
 
@@ -81,8 +87,14 @@ private:
     void resetPortPage();
     bool findLocalDevices();
     void applyLocalDevice(const QString &label);
-    void selectMatchingDriver(const LocalDeviceList::Device &device);
+    void selectMatchingDriver(const QString &model, const QString &make);
+    void applyNetworkDevice(int index);
+    // Selects the entry of PortsView that stands for uri.
+    bool selectPort(const QString &uri);
     void proposeName();
+    // Creates the queue; false (after a message) keeps the name page.
+    bool commitPrinter();
+    void showError(const QString &text, const QString &details = QString());
     void connectSlots();
     // A page of the package's help folder, as a file URL.
     static QString helpUrl(const QString &page);
@@ -109,6 +121,10 @@ private:
 
     QButtonGroup *m_pPortTypes = nullptr;
     LocalDeviceList m_localDevices;
+    NetworkDeviceList m_NetworkDevices;
+    CUPSPrinter m_newPrinter;
+    // The running test page program, null when none runs.
+    QProcess *m_pTestPrinterProcess = nullptr;
     QMap<QString, CUPSDriver> m_drivers;
     PixmapManager m_pixmaps;
     // The texts the form gives, before anything is filled in.

@@ -33,6 +33,7 @@ WizardFixture::WizardFixture(const QString &machine)
     QDir().mkpath(shareDir() + QStringLiteral("/help"));
     QFile::copy(TestPaths::sourceDir() + QStringLiteral("/share/help/PellomarAddPrinterWizard.htm"),
                 shareDir() + QStringLiteral("/help/PellomarAddPrinterWizard.htm"));
+    qstrncpy(actx.rootDir, QFile::encodeName(rootDir()).constData(), sizeof actx.rootDir);
     qstrncpy(actx.shareDir, QFile::encodeName(shareDir()).constData(), sizeof actx.shareDir);
     qstrncpy(actx.vendorUpper, "ACME", sizeof actx.vendorUpper);
 }
@@ -56,9 +57,23 @@ bool WizardFixture::load(const QByteArray &form)
 
 WizardFixture::~WizardFixture() = default;
 
+QString WizardFixture::rootDir() const
+{
+    return m_root.path();
+}
+
 QString WizardFixture::shareDir() const
 {
     return m_root.filePath(QStringLiteral("share"));
+}
+
+bool WizardFixture::addScript(const QString &path, const QByteArray &script) const
+{
+    QFile file(m_root.filePath(path));
+    if (!QDir().mkpath(QFileInfo(file).path()) || !file.open(QIODevice::WriteOnly) || file.write(script) != script.size())
+        return false;
+    file.close();
+    return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 QAbstractButton *WizardFixture::button(QWizard::WizardButton which) const

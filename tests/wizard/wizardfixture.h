@@ -13,7 +13,7 @@
 class FakeMachine;
 
 // The program's wizard loaded from the tree's forms and shown offscreen,
-// with a package share directory and a machine of its own: the device
+// with a package root (bin/, share/) and a machine of its own: the device
 // library sees the fixture machine (FakeMachine::build), the help folder
 // holds the program's help page, and only the sample vendor's drivers are
 // listed. Machine and share directory can be changed before load().
@@ -29,7 +29,10 @@ public:
     // Null when the form could not be loaded.
     AddPrinterWizard *wizard() const { return m_wizard.get(); }
     FakeMachine &machine() const { return *m_machine; }
+    QString rootDir() const;
     QString shareDir() const;
+    // Writes an executable script at path below the package root.
+    bool addScript(const QString &path, const QByteArray &script) const;
 
     template <class T>
     T *child(const char *name) const

@@ -1,0 +1,124 @@
+#include "printercreator.h"
+
+#include "cupsmanager.h"
+#include "cupsprinter.h"
+#include "ppdfileptr.h"
+#include "tempfile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QMap>
+#include <QProcess>
+
+#include <cups/cups.h>
+#include <cups/ppd.h>
+
+QString PrinterCreator::m_LpadminProgram = QStringLiteral("lpadmin");
+
+PrinterCreator::PrinterCreator(CUPSManager &cups)
+    : m_cups(cups)
+{
+}
+
+bool PrinterCreator::nameInUse(const QString &name) const
+{
+    QMap<QString, CUPSPrinter> printers;
+    if (!m_cups.listPrinters(printers))
+        return false;
+    for (auto it = printers.cbegin(); it != printers.cend(); ++it) {
+        if (it.key().compare(name, Qt::CaseInsensitive) == 0)
+            return true;
+    }
+    return false;
+}
+
+bool PrinterCreator::create(const CUPSPrinter &printer) const
+{
+    return m_cups.addPrinter(printer);
+}
+
+bool PrinterCreator::isPaperDefault(const QString &queue, const char *paper) const
+{
+    const TempFile copy(cupsGetPPD(queue.toUtf8().constData()));
+    if (copy.isNull())
+        return false;
+    const PpdFilePtr ppd(ppdOpenFile(QFile::encodeName(copy.path()).constData()));
+    if (!ppd)
+        return false;
+    ppdMarkDefaults(ppd.get());
+    return ppdIsMarked(ppd.get(), "PageSize", paper) != 0;
+}
+
+bool PrinterCreator::applyPaperSize(const QString &queue, const char *paper) const
+{
+    if (isPaperDefault(queue, paper))
+        return false;
+
+    const QString size = QString::fromLatin1(paper);
+    // Parented to the application: when lpadmin takes longer than the wait,
+    // it goes on after the wizard has moved on.
+    auto *lpadmin = new QProcess(QCoreApplication::instance());
+    lpadmin->setProcessEnvironment(cupsClientEnvironment());
+    lpadmin->setStandardInputFile(QProcess::nullDevice());
+    lpadmin->setStandardOutputFile(QProcess::nullDevice());
+    lpadmin->setStandardErrorFile(QProcess::nullDevice());
+    lpadmin->start(m_LpadminProgram, {QStringLiteral("-p"), queue, QStringLiteral("-o"),
+                                      QStringLiteral("PageSize=") + size, QStringLiteral("-o"),
+                                      QStringLiteral("PageRegion=") + size});
+    if (!lpadmin->waitForStarted()) {
+        qWarning("%s could not be started: %s", qPrintable(m_LpadminProgram), qPrintable(lpadmin->errorString()));
+        delete lpadmin;
+        return false;
+    }
+    // Each poll returns as soon as lpadmin has ended.
+    for (int poll = 0; poll < LpadminPolls; ++poll) {
+        if (lpadmin->waitForFinished(LpadminPollMs))
+            break;
+    }
+    if (lpadmin->state() == QProcess::NotRunning)
+        delete lpadmin;
+    else
+        QObject::connect(lpadmin, &QProcess::finished, lpadmin, &QObject::deleteLater);
+    return true;
+}
+
+bool PrinterCreator::makeDefault(const QString &queue) const
+{
+    QMap<QString, CUPSPrinter> printers;
+    if (!m_cups.listPrinters(printers))
+        return false;
+    const auto it = printers.constFind(queue);
+    if (it == printers.cend())
+        return false;
+    QString uri = it->URIs().value(0);
+    if (uri.isEmpty())
+        uri = CUPSManager::printerUri(queue);
+    return m_cups.setDefaultPrinter(uri);
+}
+
+QString PrinterCreator::testPageProgram(const QString &rootDir)
+{
+    for (const char *path : {"/bin/printertest", "/install/printertest"}) {
+        const QString program = rootDir + QLatin1String(path);
+        if (QFileInfo::exists(program))
+            return program;
+    }
+    return QString();
+}
+
+QProcessEnvironment PrinterCreator::cupsClientEnvironment()
+{
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    QString server = QString::fromUtf8(cupsServer());
+    if (server.isEmpty())
+        return env;
+    // cupsServer() gives the host without the port; a local socket has none.
+    if (!server.startsWith(QLatin1Char('/'))) {
+        if (server.contains(QLatin1Char(':')) && !server.startsWith(QLatin1Char('[')))
+            server = QLatin1Char('[') + server + QLatin1Char(']');
+        server += QLatin1Char(':') + QString::number(ippPort());
+    }
+    env.insert(QStringLiteral("CUPS_SERVER"), server);
+    return env;
+}

@@ -1,0 +1,57 @@
+#ifndef QUEUEWIZ_PRINTERCREATOR_H
+#define QUEUEWIZ_PRINTERCREATOR_H
+
+#include <QProcessEnvironment>
+#include <QString>
+
+class CUPSManager;
+class CUPSPrinter;
+
+// What the wizard does on the scheduler once the user has chosen port,
+// driver and name: the name check, the new queue, the paper size of the
+// user's country and the default printer. Each call blocks until it is done
+// (the wizard shows the wait cursor meanwhile); failures are results.
+class PrinterCreator
+{
+public:
+    // The program that sets a queue's paper size: "lpadmin" from the PATH.
+    static QString m_LpadminProgram;
+    // How long lpadmin is waited for: polls of 100 ms.
+    static constexpr int LpadminPolls = 50;
+    static constexpr int LpadminPollMs = 100;
+
+    explicit PrinterCreator(CUPSManager &cups);
+
+    // Whether a queue with this name exists, letter case aside and whatever
+    // its driver: the scheduler would overwrite "office" when asked to add
+    // "Office". False also when the queues could not be listed.
+    bool nameInUse(const QString &name) const;
+
+    bool create(const CUPSPrinter &printer) const;
+
+    // Whether the default page size of the queue's driver is paper; a
+    // driver file that can't be fetched or read counts as no.
+    bool isPaperDefault(const QString &queue, const char *paper) const;
+    // Makes paper the queue's default page size with lpadmin unless it is
+    // already; waits for lpadmin about five seconds at most and leaves it
+    // running after that. True when lpadmin was started.
+    bool applyPaperSize(const QString &queue, const char *paper) const;
+
+    // Makes the queue the scheduler's default printer, through the first of
+    // its URIs; false when it is not listed or the scheduler refused.
+    bool makeDefault(const QString &queue) const;
+
+    // The package's test page program below rootDir, "bin/printertest" or
+    // else "install/printertest"; empty when there is neither.
+    static QString testPageProgram(const QString &rootDir);
+
+    // The environment for programs that talk to the scheduler: the server
+    // this process uses, which may have been chosen by cupsSetServer()
+    // rather than by the environment.
+    static QProcessEnvironment cupsClientEnvironment();
+
+private:
+    CUPSManager &m_cups;
+};
+
+#endif
