@@ -8,8 +8,7 @@
 
 namespace {
 
-const QStringList jobArguments{QStringLiteral("42"), QStringLiteral("alice"), QStringLiteral("title"),
-                               QStringLiteral("1"), QStringLiteral("opts")};
+const QStringList jobArguments{"42", "alice", "title", "1", "opts"};
 
 QString mfpBackend()
 {
@@ -33,15 +32,13 @@ class TestMfpBackend : public QObject
 {
     Q_OBJECT
 
-private:
     QTemporaryDir m_root;
-    QTemporaryDir m_serverBin;
+    QTemporaryDir m_serverBin;  // with a fake backend/parallel
     FakeMachine m_machine{m_root.path()};
     QByteArray m_stdout, m_stderr;
 
     // Runs the mfp backend as the scheduler would; returns its exit code.
-    int runBackend(const QStringList &args, const QString &uri, const QByteArray &input = QByteArray(),
-                   const QString &serverBin = QString())
+    int runBackend(const QStringList &args, const QString &uri, const QByteArray &input, const QString &serverBin)
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("MFP_SYSROOT"), m_root.path());
@@ -62,119 +59,51 @@ private:
 private slots:
     void initTestCase()
     {
-        QVERIFY(m_root.isValid() && m_serverBin.isValid());
-        QVERIFY(QFileInfo(mfpBackend()).isExecutable());
+        QVERIFY(m_root.isValid() && m_serverBin.isValid() && QFileInfo(mfpBackend()).isExecutable());
         QVERIFY(QDir().mkpath(m_serverBin.filePath(QStringLiteral("backend"))));
-        for (const char *name : {"usb", "parallel"})
-            QVERIFY(QFile::copy(fakeBackend(), m_serverBin.filePath(QStringLiteral("backend/") + QLatin1String(name))));
+        QVERIFY(QFile::copy(fakeBackend(), m_serverBin.filePath(QStringLiteral("backend/parallel"))));
     }
 
-    void listing_data()
+    // The scheduler's own backend for the device gets the job on stdin and
+    // the device's URI in argv[0] and DEVICE_URI (the job in a file: see
+    // scheduler()).
+    void jobOnStdin()
     {
-        QTest::addColumn<QString>("machine");
-        QTest::addColumn<QByteArray>("expected");
-
-        QTest::newRow("empty machine") << "empty" << QByteArray();
-        QTest::newRow("parallel and usb")
-            << "mixed"
-            << QByteArray("direct mfp:/dev/mfp0 \"Hewlett-Packard LaserJet 4\" \"Hewlett-Packard LaserJet 4 (Parallel)\" "
-                          "\"CLASS:PRINTER;MODEL:LaserJet 4;MANUFACTURER:Hewlett-Packard;COMMAND SET:PCL;\" \"\"\n"
-                          "direct mfp:/dev/mfp1 \"Acme Jet 10\" \"Acme Jet 10 (Parallel)\" "
-                          "\"MODEL:Jet 10;MANUFACTURER:Acme;\" \"\"\n"
-                          "direct mfp:/dev/mfp2 \"Acme ColorLaser 2550\" \"Acme ColorLaser 2550 (USB)\" "
-                          "\"MFG:Acme;MDL:ColorLaser 2550;CLS:PRINTER;\" \"\"\n");
-        QTest::newRow("maker not repeated")
-            << "bus order"
-            << QByteArray("direct mfp:/dev/mfp0 \"HP LaserJet 1020\" \"HP LaserJet 1020 (USB)\" "
-                          "\"MFG:Hewlett-Packard;MDL:HP LaserJet 1020;\" \"\"\n"
-                          "direct mfp:/dev/mfp1 \"Acme MFP 4200\" \"Acme MFP 4200 (USB)\" "
-                          "\"MFG:Acme;MDL:MFP 4200;CLS:PRINTER;\" \"\"\n"
-                          "direct mfp:/dev/mfp2 \"Acme Jet 3\" \"Acme Jet 3 (USB)\" "
-                          "\"MFG:Acme;MDL:Acme Jet 3;CLS:PRINTER;\" \"\"\n");
-    }
-
-    void listing()
-    {
-        QFETCH(QString, machine);
-        QFETCH(QByteArray, expected);
-        QVERIFY(m_machine.build(machine));
-        QCOMPARE(runBackend({}, QString()), 0);
-        QCOMPARE(m_stdout, expected);
-    }
-
-    void job_data()
-    {
-        QTest::addColumn<QString>("machine");
-        QTest::addColumn<QString>("uri");
-        QTest::addColumn<bool>("inFile");
-        QTest::addColumn<QString>("backend");
-        QTest::addColumn<QString>("deviceUri");
-
-        QTest::newRow("usb, job on stdin") << "usb without id" << "mfp:/dev/mfp0" << false << "usb"
-                                           << "usb://Acme/ColorLaser%202550?serial=CL2550X";
-        QTest::newRow("parallel, job in a file") << "mixed" << "mfp:/dev/mfp1" << true << "parallel"
-                                                 << "parallel:/dev/lp10";
-    }
-
-    void job()
-    {
-        QFETCH(QString, machine);
-        QFETCH(QString, uri);
-        QFETCH(bool, inFile);
-        QFETCH(QString, backend);
-        QFETCH(QString, deviceUri);
-        QVERIFY(m_machine.build(machine));
-        const QString recorded = m_serverBin.filePath(QStringLiteral("backend/") + backend);
-        QFile::remove(recorded + QStringLiteral(".args"));
-        QFile::remove(recorded + QStringLiteral(".data"));
-
+        QVERIFY(m_machine.build(QStringLiteral("mixed")));
+        const QString recorded = m_serverBin.filePath(QStringLiteral("backend/parallel"));
         QByteArray payload("%!PS\n");
         for (int i = 0; i < 256; ++i)
             payload += char(i);
-        QStringList args = jobArguments;
-        if (inFile) {
-            args << m_root.filePath(QStringLiteral("job.ps"));
-            QFile f(args.last());
-            QVERIFY(f.open(QIODevice::WriteOnly) && f.write(payload) == payload.size());
-        }
-        QCOMPARE(runBackend(args, uri, inFile ? QByteArray() : payload), 0);
-
-        const QStringList expectedArgs = QStringList{deviceUri, deviceUri} + args;
-        QCOMPARE(QString::fromUtf8(readFile(recorded + QStringLiteral(".args"))).split(QLatin1Char('\n'), Qt::SkipEmptyParts),
-                 expectedArgs);
-        QCOMPARE(readFile(recorded + QStringLiteral(".data")), payload);
+        QCOMPARE(runBackend(jobArguments, QStringLiteral("mfp:/dev/mfp1"), payload, QString()), 0);
+        QCOMPARE(QString::fromUtf8(readFile(recorded + ".args")).split('\n', Qt::SkipEmptyParts),
+                 QStringList({"parallel:/dev/lp10", "parallel:/dev/lp10"}) + jobArguments);
+        QCOMPARE(readFile(recorded + ".data"), payload);
     }
 
     void failures_data()
     {
-        QTest::addColumn<QString>("machine");
         QTest::addColumn<QString>("uri");
         QTest::addColumn<int>("argc");
         QTest::addColumn<QString>("serverBin");
         QTest::addColumn<int>("exitCode");
         QTest::addColumn<QString>("message");
 
-        const QString none; // the fake backends
-        QTest::newRow("vanished device: retry") << "usb without id" << "mfp:/dev/mfp1" << 5 << none << 6
-                                                << "ERROR: The printer /dev/mfp1 is not connected";
-        QTest::newRow("not an mfp URI") << "parallel" << "parallel:/dev/lp0" << 5 << none << 4
+        QTest::newRow("not an mfp URI") << "parallel:/dev/lp0" << 5 << QString() << 4
                                         << "ERROR: Bad device URI \"parallel:/dev/lp0\"";
-        QTest::newRow("scheduler backend missing") << "parallel" << "mfp:/dev/mfp0" << 5
-                                                   << m_root.filePath(QStringLiteral("nothing")) << 4
-                                                   << "ERROR: Unable to run the parallel backend";
-        QTest::newRow("wrong argument count") << "parallel" << "mfp:/dev/mfp0" << 2 << none << 1 << "Usage:";
+        QTest::newRow("scheduler backend missing") << "mfp:/dev/mfp0" << 5 << m_root.filePath(QStringLiteral("nothing"))
+                                                   << 4 << "ERROR: Unable to run the parallel backend";
+        QTest::newRow("wrong argument count") << "mfp:/dev/mfp0" << 2 << QString() << 1 << "Usage:";
     }
 
     void failures()
     {
-        QFETCH(QString, machine);
         QFETCH(QString, uri);
         QFETCH(int, argc);
         QFETCH(QString, serverBin);
         QFETCH(int, exitCode);
         QFETCH(QString, message);
-        QVERIFY(m_machine.build(machine));
-        QCOMPARE(runBackend(jobArguments.mid(0, argc), uri, QByteArray("data"), serverBin), exitCode);
+        QVERIFY(m_machine.build(QStringLiteral("parallel")));
+        QCOMPARE(runBackend(jobArguments.mid(0, argc), uri, "data", serverBin), exitCode);
         QVERIFY2(m_stderr.contains(message.toUtf8()), m_stderr.constData());
     }
 
@@ -190,51 +119,57 @@ private slots:
         QVERIFY2(sandbox.start(&output), qPrintable(output));
         sandbox.use();
 
+        // "uri | info | make-and-model | device-id" of each device listed.
         QVERIFY(m_machine.build(QStringLiteral("mixed")));
-        QCOMPARE(CupsSandbox::run({QStringLiteral("lpinfo"), QStringLiteral("-l"), QStringLiteral("--include-schemes"),
-                                   QStringLiteral("mfp"), QStringLiteral("-v")}, &output), 0);
-        QStringList uris;
-        for (const QString &line : output.split(QLatin1Char('\n'))) {
+        QCOMPARE(CupsSandbox::run({"lpinfo", "-l", "--include-schemes", "mfp", "-v"}, &output), 0);
+        QStringList devices;
+        const QRegularExpression attribute(QStringLiteral("^\\s+(info|make-and-model|device-id) = (.*)$"));
+        for (const QString &line : output.split('\n')) {
+            const QRegularExpressionMatch match = attribute.match(line);
             if (line.startsWith(QLatin1String("Device: uri = ")))
-                uris << line.mid(14);
+                devices << line.mid(14);
+            else if (match.hasMatch() && !devices.isEmpty())
+                devices.last() += " | " + match.captured(2);
         }
-        uris.sort();
-        QCOMPARE(uris, QStringList({"mfp:/dev/mfp0", "mfp:/dev/mfp1", "mfp:/dev/mfp2"}));
-        QVERIFY2(output.contains(QLatin1String("device-id = MFG:Acme;MDL:ColorLaser 2550;CLS:PRINTER;")),
-                 qPrintable(output));
+        devices.sort();
+        QCOMPARE(devices, QStringList({"mfp:/dev/mfp0 | Hewlett-Packard LaserJet 4 (Parallel) | "
+                                       "Hewlett-Packard LaserJet 4 | "
+                                       "CLASS:PRINTER;MODEL:LaserJet 4;MANUFACTURER:Hewlett-Packard;COMMAND SET:PCL;",
+                                       "mfp:/dev/mfp1 | Acme Jet 10 (Parallel) | Acme Jet 10 | "
+                                       "MODEL:Jet 10;MANUFACTURER:Acme;",
+                                       // the maker is not repeated
+                                       "mfp:/dev/mfp2 | Acme Jet 3 (USB) | Acme Jet 3 | "
+                                       "MFG:Acme;MDL:Acme Jet 3;CLS:PRINTER;"}));
 
         QVERIFY(m_machine.build(QStringLiteral("usb without id")));
-        QCOMPARE(CupsSandbox::run({QStringLiteral("lpadmin"), QStringLiteral("-p"), QStringLiteral("mfpqueue"),
-                                   QStringLiteral("-E"), QStringLiteral("-v"), QStringLiteral("mfp:/dev/mfp0")}, &output),
-                 0);
-        const QString job = m_root.filePath(QStringLiteral("job.txt"));
-        QFile f(job);
-        QVERIFY(f.open(QIODevice::WriteOnly) && f.write("page one\f") > 0);
-        f.close();
-        const QStringList lp{QStringLiteral("lp"), QStringLiteral("-d"), QStringLiteral("mfpqueue"), job};
+        QCOMPARE(CupsSandbox::run({"lpadmin", "-p", "mfpqueue", "-E", "-v", "mfp:/dev/mfp0"}, &output), 0);
+        QFile job(m_root.filePath(QStringLiteral("job.txt")));
+        QVERIFY(job.open(QIODevice::WriteOnly) && job.write("page one\f") > 0);
+        job.close();
+        const QStringList lp{"lp", "-d", "mfpqueue", job.fileName()};
         const QString recorded = sandbox.backendDir() + QStringLiteral("/usb");
         QCOMPARE(CupsSandbox::run(lp, &output), 0);
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(recorded + QStringLiteral(".data")), 30000);
-        QCOMPARE(readFile(recorded + QStringLiteral(".data")), QByteArray("page one\f"));
-        QVERIFY(readFile(recorded + QStringLiteral(".args")).startsWith(
-            "usb://Acme/ColorLaser%202550?serial=CL2550X\nusb://Acme/ColorLaser%202550?serial=CL2550X\n"));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(recorded + ".data"), 30000);
+        QCOMPARE(readFile(recorded + ".data"), QByteArray("page one\f"));
+        QVERIFY(readFile(recorded + ".args").startsWith("usb://Acme/ColorLaser%202550?serial=CL2550X\n"
+                                                        "usb://Acme/ColorLaser%202550?serial=CL2550X\n"));
 
         // Unplugged: the job waits and the log says why.
-        QFile::remove(recorded + QStringLiteral(".data"));
+        QFile::remove(recorded + ".data");
         m_machine.clear();
         QCOMPARE(CupsSandbox::run(lp, &output), 0);
-        const QString jobId = output.section(QLatin1Char(' '), 3, 3);
+        const QString jobId = output.section(' ', 3, 3);
         const QRegularExpression logged(QStringLiteral("^E .*\\[Job %1\\] The printer /dev/mfp0 is not connected")
-                                            .arg(jobId.section(QLatin1Char('-'), -1)),
+                                            .arg(jobId.section('-', -1)),
                                         QRegularExpression::MultilineOption);
         QTRY_VERIFY_WITH_TIMEOUT(sandbox.errorLog().contains(logged), 30000);
-        QCOMPARE(CupsSandbox::run({QStringLiteral("lpstat"), QStringLiteral("-o"), QStringLiteral("mfpqueue")}, &output), 0);
+        QCOMPARE(CupsSandbox::run({"lpstat", "-o", "mfpqueue"}, &output), 0);
         QVERIFY2(output.contains(jobId), qPrintable(output));
 
         // Plugged in again: the scheduler's retry prints it.
         QVERIFY(m_machine.build(QStringLiteral("usb without id")));
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(recorded + QStringLiteral(".data")), 60000);
-        QCOMPARE(readFile(recorded + QStringLiteral(".data")), QByteArray("page one\f"));
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(recorded + ".data"), 60000);
+        QCOMPARE(readFile(recorded + ".data"), QByteArray("page one\f"));
     }
 };
 

@@ -3,20 +3,24 @@
 #include "testpaths.h"
 
 #include <QDeadlineTimer>
-#include <QProcessEnvironment>
 
-InstanceProcess::InstanceProcess(const QString &display, const QString &id, const QString &user)
+QProcessEnvironment InstanceProcess::environment(const QString &display)
 {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("DISPLAY"), display);
     env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
     env.remove(QStringLiteral("WAYLAND_DISPLAY"));
-    m_process.setProcessEnvironment(env);
+    return env;
+}
+
+InstanceProcess::InstanceProcess(const QString &display, const QString &id, const QString &user)
+{
+    m_process.setProcessEnvironment(environment(display));
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     QStringList args{ QStringLiteral("--id"), QString::fromLatin1(encode(id)) };
     if (!user.isNull())
         args << QStringLiteral("--user") << QString::fromLatin1(encode(user));
-    m_process.setProgram(helperPath());
+    m_process.setProgram(TestPaths::binaryDir() + QStringLiteral("/tests/singleapp/instancehelper"));
     m_process.setArguments(args);
 }
 
@@ -28,79 +32,39 @@ InstanceProcess::~InstanceProcess()
     }
 }
 
-QString InstanceProcess::helperPath()
-{
-    return TestPaths::binaryDir() + QStringLiteral("/tests/singleapp/instancehelper");
-}
-
 bool InstanceProcess::start()
 {
     m_process.start();
     return m_process.waitForStarted(10000);
 }
 
-void InstanceProcess::command(const QByteArray &line)
+QByteArray InstanceProcess::ask(const QByteArray &command)
 {
-    m_process.write(line + '\n');
-    m_process.waitForBytesWritten(5000);
-}
-
-void InstanceProcess::collect()
-{
-    m_buffer += m_process.readAllStandardOutput();
-    qsizetype end;
-    while ((end = m_buffer.indexOf('\n')) >= 0) {
-        m_lines.append(m_buffer.left(end));
-        m_buffer.remove(0, end + 1);
-    }
-}
-
-QByteArray InstanceProcess::take(const QByteArray &prefix)
-{
-    for (qsizetype i = 0; i < m_lines.size(); ++i) {
-        const QByteArray &line = m_lines.at(i);
-        if (line == prefix || line.startsWith(prefix + ' ')) {
-            const QByteArray rest = line.mid(prefix.size() + 1);
-            m_lines.removeAt(i);
-            return rest.isNull() ? QByteArray("") : rest;
-        }
-    }
-    return QByteArray();
+    m_process.write(command + '\n');
+    return waitFor(command.split(' ').first());
 }
 
 QByteArray InstanceProcess::waitFor(const QByteArray &prefix, int timeout)
 {
     const QDeadlineTimer deadline(timeout);
     for (;;) {
-        collect();
-        const QByteArray found = take(prefix);
-        if (!found.isNull())
-            return found;
+        while (m_process.canReadLine())
+            m_lines.append(m_process.readLine().chopped(1));
+        for (qsizetype i = 0; i < m_lines.size(); ++i) {
+            if (m_lines.at(i) == prefix || m_lines.at(i).startsWith(prefix + ' ')) {
+                const QByteArray rest = m_lines.takeAt(i).mid(prefix.size() + 1);
+                return rest.isNull() ? QByteArray("") : rest;
+            }
+        }
         if (deadline.hasExpired() || m_process.state() == QProcess::NotRunning)
             return QByteArray();
         m_process.waitForReadyRead(int(qMax<qint64>(1, deadline.remainingTime())));
     }
 }
 
-bool InstanceProcess::hasAnswer(const QByteArray &prefix)
-{
-    collect();
-    for (const QByteArray &line : std::as_const(m_lines)) {
-        if (line == prefix || line.startsWith(prefix + ' '))
-            return true;
-    }
-    return false;
-}
-
-QByteArray InstanceProcess::ask(const QByteArray &line, const QByteArray &answerPrefix)
-{
-    command(line);
-    return waitFor(answerPrefix);
-}
-
 int InstanceProcess::quit()
 {
-    command("quit");
+    m_process.write("quit\n");
     if (!m_process.waitForFinished(15000) || m_process.exitStatus() != QProcess::NormalExit)
         return -1;
     return m_process.exitCode();

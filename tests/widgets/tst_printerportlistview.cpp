@@ -28,11 +28,21 @@ class TestPrinterPortListView : public QObject
         return shown;
     }
 
+    static QLineEdit *openEditor(const PrinterPortListView &view)
+    {
+        QList<QLineEdit *> open;
+        for (QLineEdit *e : view.findChildren<QLineEdit *>())
+            if (!e->isHidden())
+                open << e;
+        return open.size() == 1 ? open.first() : nullptr;
+    }
+
 private slots:
     // A CUPS that takes IPv6 addresses, whatever this machine runs.
     void initTestCase() { CUPSManager::m_CUPSManagerInstance.CupsVersion = 4; }
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not).*"))); }
 
+    // Renamable entries are marked "*", with their validator's scheme.
     void structure()
     {
         PrinterPortListView view(nullptr, "PortsView");
@@ -42,9 +52,11 @@ private slots:
             QTreeWidgetItem *g = view.topLevelItem(i);
             QStringList children;
             for (int j = 0; j < g->childCount(); ++j) {
-                auto *item = dynamic_cast<ListViewItemEx *>(g->child(j));
-                const bool renamed = g->child(j)->type() == FormattedListItem::RTTI && item->renameEnabled(0);
-                children << g->child(j)->text(0) + (renamed ? "*" : "");
+                auto *item = dynamic_cast<FormattedListItem *>(g->child(j));
+                auto *validator = item ? qobject_cast<UriValidator *>(item->validator(0)) : nullptr;
+                QVERIFY(!validator || validator->ipv6Allowed());
+                children << g->child(j)->text(0)
+                        + (validator && item->renameEnabled(0) ? QStringLiteral("*%1").arg(validator->scheme()) : "");
             }
             tree << g->text(0) + "/" + g->text(1) + ": " + children.join(' ');
         }
@@ -54,32 +66,24 @@ private slots:
             "Parallel/native: /dev/lp0 /dev/lp1 /dev/lp2 /dev/lp3",
             "USB/native: /dev/usb/lp0 /dev/usb/lp1 /dev/usb/lp2 /dev/usb/lp3 /dev/usb/lp4 /dev/usb/lp5 "
             "/dev/usb/lp6 /dev/usb/lp7",
-            "Network/: ipp://* socket://* lpd://* smb://*",
-            "File/: file:*"}));
+            "Network/: ipp://*1 socket://*2 lpd://*3 smb://*4",
+            "File/: file:*5"}));
 
         QCOMPARE(shownGroups(view), (QStringList{"Parallel/native", "USB/native", "Network/", "File/"}));
         QVERIFY(view.setProperty("mfpMode", true));
         QCOMPARE(shownGroups(view), (QStringList{"Parallel/mfp", "USB/mfp", "Network/", "File/"}));
         view.setMfpMode(false);
         QCOMPARE(shownGroups(view), (QStringList{"Parallel/native", "USB/native", "Network/", "File/"}));
-    }
 
-    void ipv6FollowsCupsVersion()
-    {
-        for (int version : {-1, 1, 2}) {
-            CUPSManager::m_CUPSManagerInstance.CupsVersion = version;
-            PrinterPortListView view;
-            for (int i = 0; i < 4; ++i) {
-                auto *item = static_cast<FormattedListItem *>(entry(view, Network, i));
-                auto *validator = qobject_cast<UriValidator *>(item->validator(0));
-                QCOMPARE(validator->scheme(), i + 1);
-                QCOMPARE(validator->ipv6Allowed(), version > 1);
-            }
-        }
+        CUPSManager::m_CUPSManagerInstance.CupsVersion = 1;  // no IPv6 in device URIs yet
+        PrinterPortListView old;
         CUPSManager::m_CUPSManagerInstance.CupsVersion = 4;
+        QVERIFY(!static_cast<UriValidator *>(static_cast<FormattedListItem *>(entry(old, Network, 3))->validator(0))
+                     ->ipv6Allowed());
     }
 
-    // Selecting shows the entry's group and gives back the URI of the entry.
+    // Selecting shows the entry's group and gives back the URI of the entry;
+    // an unknown URI changes nothing.
     void selectURI_data()
     {
         QTest::addColumn<bool>("mfpBefore");
@@ -87,16 +91,18 @@ private slots:
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("selected");
         QTest::addColumn<bool>("mfpAfter");
-
-        QTest::newRow("mfp flips the mode") << false << "mfp:/dev/mfp2" << "/dev/mfp2" << "mfp:/dev/mfp2" << true;
-        QTest::newRow("mfp11, not mfp1") << true << "mfp:/dev/mfp11" << "/dev/mfp11" << "mfp:/dev/mfp11" << true;
-        QTest::newRow("usb flips back") << true << "usb:/dev/usb/lp3" << "/dev/usb/lp3" << "usb:/dev/usb/lp3" << false;
-        QTest::newRow("parallel") << false << "parallel:/dev/lp0" << "/dev/lp0" << "parallel:/dev/lp0" << false;
-        QTest::newRow("network keeps the mode") << true << "socket://1.2.3.4:9100" << "socket://1.2.3.4:9100"
-                                                << "socket://1.2.3.4:9100" << true;
-        QTest::newRow("network repaired") << false << "ipp://fe80::1" << "ipp://[fe80::1]" << "ipp://[fe80::1]" << false;
-        QTest::newRow("smb") << false << "smb://server/share" << "smb://server/share" << "smb://server/share" << false;
-        QTest::newRow("file") << false << "file:/tmp/out" << "file:/tmp/out" << "file:/tmp/out" << false;
+        auto row = [](const char *name, bool mfpBefore, const char *uri, const char *shown, const char *selected,
+                      bool mfpAfter) {
+            QTest::newRow(name) << mfpBefore << QString(uri) << QString(shown) << QString(selected) << mfpAfter;
+        };
+        row("mfp flips the mode", false, "mfp:/dev/mfp2", "/dev/mfp2", "mfp:/dev/mfp2", true);
+        row("mfp11, not mfp1", true, "mfp:/dev/mfp11", "/dev/mfp11", "mfp:/dev/mfp11", true);
+        row("usb flips back", true, "usb:/dev/usb/lp3", "/dev/usb/lp3", "usb:/dev/usb/lp3", false);
+        row("parallel", false, "parallel:/dev/lp0", "/dev/lp0", "parallel:/dev/lp0", false);
+        row("network keeps the mode", true, "socket://1.2.3.4:9100", "socket://1.2.3.4:9100", "socket://1.2.3.4:9100",
+            true);
+        row("network repaired", false, "ipp://fe80::1", "ipp://[fe80::1]", "ipp://[fe80::1]", false);
+        row("file", false, "file:/tmp/out", "file:/tmp/out", "file:/tmp/out", false);
     }
 
     void selectURI()
@@ -119,80 +125,54 @@ private slots:
         QCOMPARE(view.mfpMode(), mfpAfter);
         QCOMPARE(view.selectedURI(), selected);
 
+        QCOMPARE(view.displayText(QStringLiteral("hp:/usb/x")), QString());
         view.selectURI(QStringLiteral("hp:/usb/x"));
         QCOMPARE(view.selectedItem(), item);
         QCOMPARE(view.mfpMode(), mfpAfter);
     }
 
-    void displayText()
-    {
-        PrinterPortListView view;
-        QCOMPARE(view.displayText(QStringLiteral("usb:/dev/usb/lp1")), QStringLiteral("/dev/usb/lp1"));
-        QCOMPARE(view.displayText(QStringLiteral("ipp://fe80::1")), QStringLiteral("ipp://fe80::1"));
-        QCOMPARE(view.displayText(QStringLiteral("hp:/usb/x")), QString());
-    }
-
-    void selectionEditable_data()
-    {
-        QTest::addColumn<int>("group");
-        QTest::addColumn<int>("child");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("editable");
-
-        QTest::newRow("nothing selected") << -1 << -1 << "" << false;
-        QTest::newRow("group") << int(Network) << -1 << "" << true;
-        QTest::newRow("local device") << int(NativeUsb) << 0 << "" << true;
-        QTest::newRow("bare prefix") << int(Network) << 0 << "" << false;
-        QTest::newRow("valid address") << int(Network) << 1 << "socket://1.2.3.4:9100" << true;
-        QTest::newRow("lpd without queue") << int(Network) << 2 << "lpd://host" << false;
-        QTest::newRow("relative file") << int(File) << 0 << "file:out.prn" << false;
-    }
-
-    void selectionEditable()
-    {
-        QFETCH(int, group);
-        QFETCH(int, child);
-        QFETCH(QString, text);
-        QFETCH(bool, editable);
-
-        PrinterPortListView view;
-        if (group >= 0) {
-            QTreeWidgetItem *item = entry(view, group, child);
-            if (!text.isEmpty())
-                item->setText(0, text);
-            view.setCurrentItem(item);
-        }
-        QCOMPARE(view.isSelectionEditable(), editable);
-    }
-
-    // Double-click renames the network and file entries only; the text being
-    // typed is judged, and stored with the prefix put back.
+    // Double-click renames the network and file entries only. Every
+    // keystroke is heard with the whole text; how the rename ends decides
+    // what is stored, the prefix put back.
     void doubleClickRename_data()
     {
         QTest::addColumn<int>("group");
         QTest::addColumn<int>("child");
+        QTest::addColumn<bool>("toEnd");
         QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("endKey");
         QTest::addColumn<QString>("uri");
+        QTest::addColumn<bool>("editable");
 
-        QTest::newRow("ipp over the prefix") << int(Network) << 0 << "host" << "ipp://host";
-        QTest::newRow("lpd host and queue") << int(Network) << 2 << "host/queue" << "lpd://host/queue";
-        QTest::newRow("file path") << int(File) << 0 << "/tmp/x.prn" << "file:/tmp/x.prn";
-        QTest::newRow("group") << int(Network) << -1 << "" << "";
-        QTest::newRow("local device") << int(NativeParallel) << 1 << "" << "parallel:/dev/lp1";
+        auto row = [](const char *name, int group, int child, bool toEnd, const char *typed, int endKey,
+                      const char *uri, bool editable) {
+            QTest::newRow(name) << group << child << toEnd << QString(typed) << endKey << QString(uri) << editable;
+        };
+        row("Enter over the selected prefix", Network, 0, false, "host", Qt::Key_Return, "ipp://host", true);
+        row("Enter after the prefix", Network, 2, true, "host/q", Qt::Key_Enter, "lpd://host/q", true);
+        row("Enter keeps invalid text", File, 0, true, "x.prn", Qt::Key_Return, "file:x.prn", false);
+        row("Escape", Network, 1, true, "host", Qt::Key_Escape, "socket://", false);
+        row("focus leaves the editor", Network, 0, true, "h", 0, "ipp://h", true);
+        row("group", Network, -1, false, "", 0, "", true);
+        row("local device", NativeParallel, 1, false, "", 0, "parallel:/dev/lp1", true);
     }
 
     void doubleClickRename()
     {
         QFETCH(int, group);
         QFETCH(int, child);
+        QFETCH(bool, toEnd);
         QFETCH(QString, typed);
+        QFETCH(int, endKey);
         QFETCH(QString, uri);
+        QFETCH(bool, editable);
 
         PrinterPortListView view;
         view.resize(300, 700);
         view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QVERIFY(QTest::qWaitForWindowActive(&view));
         QSignalSpy renaming(&view, &ListViewEx::itemRenaming);
+        QSignalSpy canceled(&view, &ListViewEx::renameCanceled);
         QTreeWidgetItem *item = entry(view, group, child);
         const QString before = item->text(0);
         const QPoint at = view.visualItemRect(item).center();
@@ -200,25 +180,62 @@ private slots:
         QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, at);
         QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, at);
         QCOMPARE(view.selectedItem(), item);
-        auto *editor = view.findChild<QLineEdit *>();
+        QLineEdit *editor = openEditor(view);
+        auto *renamed = dynamic_cast<ListViewItemEx *>(item);
         if (typed.isEmpty()) {
             QVERIFY(!editor && !view.isRenaming());
         } else {
-            QVERIFY(editor);
-            QCOMPARE(editor->text(), before);
+            QVERIFY(editor && renamed);
+            QCOMPARE(editor->selectedText(), before);
+            if (toEnd)
+                QTest::keyClick(editor, Qt::Key_End);
             QTest::keyClicks(editor, typed);
+            const QString head = toEnd ? before : QString();
             QCOMPARE(renaming.size(), typed.size());
-            QCOMPARE(renaming.last().at(2).toString(), typed);
-            QVERIFY(view.isSelectionEditable());
-            QTest::keyClick(editor, Qt::Key_Return);
+            for (int i = 0; i < typed.size(); ++i)
+                QCOMPARE(renaming.at(i), (QVariantList{QVariant::fromValue(renamed), 0, head + typed.left(i + 1)}));
+            // What is being typed is judged, not what is stored.
+            QCOMPARE(view.isSelectionEditable(), renamed->isAcceptable(0, head + typed));
+
+            if (endKey)
+                QTest::keyClick(editor, Qt::Key(endKey));
+            else
+                view.setFocus();
             QTRY_VERIFY(!view.isRenaming());
+            QVERIFY(!view.renamingItem() && !renamed->editor());
+            QCOMPARE(canceled.size(), endKey == Qt::Key_Escape ? 1 : 0);
+            if (!canceled.isEmpty())
+                QCOMPARE(canceled.first(), (QVariantList{QVariant::fromValue(renamed), 0}));
+            QCOMPARE(renaming.size(), typed.size());
         }
         QCOMPARE(view.selectedURI(), uri);
+        QCOMPARE(view.isSelectionEditable(), editable);
     }
 
-    void renameWithoutSelection()
+    // Only column 0 is renamed; a second rename, started with F2, stores the
+    // first; an item removed while renamed leaves no dangling rename.
+    void renameOneAtATime()
     {
         PrinterPortListView view;
+        view.show();
+        QVERIFY(QTest::qWaitForWindowActive(&view));
+        auto *ipp = static_cast<FormattedListItem *>(entry(view, Network, 0));
+        auto *socket = static_cast<FormattedListItem *>(entry(view, Network, 1));
+        ipp->startRename(1);
+        QVERIFY(!view.isRenaming() && !openEditor(view));
+        ipp->startRename(0);
+        QTest::keyClicks(openEditor(view), QStringLiteral("one"));
+        socket->startRename(1);
+        QCOMPARE(view.renamingItem(), ipp);
+        view.setCurrentItem(socket);
+        QTest::keyClick(&view, Qt::Key_F2);
+        QCOMPARE(ipp->text(0), QStringLiteral("ipp://one"));
+        QCOMPARE(view.renamingItem(), socket);
+        delete socket;
+        QVERIFY(!view.renamingItem());
+
+        view.clearSelection();
+        QVERIFY(!view.isSelectionEditable());
         QTest::ignoreMessage(QtWarningMsg, "No item selected");
         view.startRenameSelectedItem();
         QVERIFY(!view.isRenaming());
