@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QtTest>
 
 using W = AddPrinterWizard;
@@ -26,37 +25,40 @@ QByteArray record(const char *address, const char *slp, const QByteArray &descri
     return QByteArray("ip: ") + address + " slp: " + slp + " snmp: 1,0,1 dsc: \"" + description + "\"\n";
 }
 
+bool writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+QByteArray arguments(const WizardFixture &f)
+{
+    QFile file(f.rootDir() + QStringLiteral("/bin/args"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+}
+
 } // namespace
 
 class TestNetworkDiscovery : public QObject
 {
     Q_OBJECT
 
-    // The wizard on the port type page with the network type chosen and
-    // a search made; the program prints output.
-    static bool search(WizardFixture &f, const QByteArray &output, bool program = true)
+    // The wizard on the port type page with the network type chosen and a
+    // search made; the program prints output, and is missing when that is
+    // null.
+    static bool search(WizardFixture &f, const QByteArray &output)
     {
-        if (program && !f.addScript(QStringLiteral("bin/netdiscovery"), FakeDiscovery))
+        if ((!output.isNull() && !f.addScript(QStringLiteral("bin/netdiscovery"), FakeDiscovery))
+            || !writeFile(f.rootDir() + QStringLiteral("/output"), output) || !f.load() || !f.click(QWizard::NextButton))
             return false;
-        QFile file(f.rootDir() + QStringLiteral("/output"));
-        if (!file.open(QIODevice::WriteOnly) || file.write(output) != output.size())
-            return false;
-        file.close();
-        if (!f.load() || !f.click(QWizard::NextButton))
-            return false;
-        auto *network = f.child<QRadioButton>("NetworkButton");
-        QTest::mouseClick(network, Qt::LeftButton, {}, QPoint(network->height() / 2, network->height() / 2));
+        f.clickRadio("NetworkButton");
         QTest::mouseClick(f.child<QPushButton>("SearchNetworkButton"), Qt::LeftButton);
         return f.wizard()->portTypeId() == W::PortType_AutoNetwork;
     }
 
     static QStringList entries(const WizardFixture &f)
     {
-        auto *list = f.child<QComboBox>("NetworkList");
-        QStringList texts;
-        for (int i = 0; i < list->count(); ++i)
-            texts << list->itemText(i);
-        return texts;
+        return WizardFixture::texts(f.child<QComboBox>("NetworkList")->model());
     }
 
 private slots:
@@ -81,139 +83,77 @@ private slots:
     {
         QTest::addColumn<QByteArray>("output");
         QTest::addColumn<int>("cupsVersion");
-        QTest::addColumn<QStringList>("entries");
+        QTest::addColumn<QString>("entry");
         QTest::addColumn<QString>("uri");
+        const auto row = [](const char *tag, const QByteArray &output, const QString &entry, const QString &uri,
+                            int cupsVersion = 4) { QTest::newRow(tag) << output << cupsVersion << entry << uri; };
 
-        QTest::newRow("all services: IPP first")
-            << record("10.0.0.5", "1,1,1,1") << 4 << QStringList{"10.0.0.5 (IPP,socket,LPD)  Office"}
-            << "ipp://10.0.0.5/ipp/print";
-        QTest::newRow("raw socket") << record("10.0.0.6", "1,0,0,1") << 4 << QStringList{"10.0.0.6 (socket)  Office"}
-                                    << "socket://10.0.0.6:9100";
-        QTest::newRow("LPD") << record("10.0.0.7", "1,0,1,0") << 4 << QStringList{"10.0.0.7 (LPD)  Office"}
-                             << "lpd://10.0.0.7/lp";
-        QTest::newRow("answered, nothing offered")
-            << record("10.0.0.8", "1,0,0,0") << 4 << QStringList{"10.0.0.8 ()  Office"} << "";
-        QTest::newRow("not asked: IPP") << record("10.0.0.9", "0,0,0,0") << 4 << QStringList{"10.0.0.9 (IPP)  Office"}
-                                        << "ipp://10.0.0.9/ipp/print";
-        QTest::newRow("IPv6: socket") << record("fe80::1", "1,1,0,0") << 4 << QStringList{"fe80::1 (IPP)  Office"}
-                                      << "socket://[fe80::1]:9100";
-        QTest::newRow("IPv6 before version 2")
-            << record("fe80::1", "1,1,0,0") + record("10.0.0.10", "1,0,0,1") << 1
-            << QStringList{"10.0.0.10 (socket)  Office"} << "socket://10.0.0.10:9100";
-        QTest::newRow("empty description") << record("10.0.0.11", "0,0,0,0", "") << 4
-                                           << QStringList{"10.0.0.11 (IPP)  UNKNOWN"} << "ipp://10.0.0.11/ipp/print";
-        QTest::newRow("no description")
-            << QByteArray("ip: 10.0.0.12 slp: 0,0,0,0 snmp: 0,0,0\n") << 4 << QStringList{"10.0.0.12 (IPP)  "}
-            << "ipp://10.0.0.12/ipp/print";
-        QTest::newRow("description up to its last quote")
-            << record("10.0.0.13", "0,0,0,0", "Laser \"Ann\" 2") << 4
-            << QStringList{"10.0.0.13 (IPP)  Laser \"Ann\" 2"} << "ipp://10.0.0.13/ipp/print";
-        QTest::newRow("long address and description cut")
-            << record(QByteArray(50, 'a').constData(), "1,0,0,1", QByteArray(200, 'd')) << 4
-            << QStringList{QString(39, 'a') + " (socket)  " + QString(95, 'd')}
-            << "socket://" + QString(39, 'a') + ":9100";
+        row("all services: IPP first", record("10.0.0.5", "1,1,1,1"), "10.0.0.5 (IPP,socket,LPD)  Office",
+            "ipp://10.0.0.5/ipp/print");
+        row("raw socket", record("10.0.0.6", "1,0,0,1"), "10.0.0.6 (socket)  Office", "socket://10.0.0.6:9100");
+        row("LPD", record("10.0.0.7", "1,0,1,0"), "10.0.0.7 (LPD)  Office", "lpd://10.0.0.7/lp");
+        row("answered, nothing offered", record("10.0.0.8", "1,0,0,0"), "10.0.0.8 ()  Office", "");
+        row("not asked: IPP", record("10.0.0.9", "0,0,0,0"), "10.0.0.9 (IPP)  Office", "ipp://10.0.0.9/ipp/print");
+        row("IPv6: socket", record("fe80::1", "1,1,0,0"), "fe80::1 (IPP)  Office", "socket://[fe80::1]:9100");
+        row("IPv6 before version 2", record("fe80::1", "1,1,0,0") + record("10.0.0.10", "1,0,0,1"),
+            "10.0.0.10 (socket)  Office", "socket://10.0.0.10:9100", 1);
+        row("empty description", record("10.0.0.11", "0,0,0,0", ""), "10.0.0.11 (IPP)  UNKNOWN",
+            "ipp://10.0.0.11/ipp/print");
+        row("long address and description cut", record(QByteArray(50, 'a').constData(), "1,0,0,1", QByteArray(200, 'd')),
+            QString(39, 'a') + " (socket)  " + QString(95, 'd'), "socket://" + QString(39, 'a') + ":9100");
         QByteArray noise = "# netdiscovery: 3 printer(s)\n\n   # ip: 10.0.0.1 slp: 1,1,1,1 snmp: 1,1,1\n"
                            "ip: 10.0.0.2 slp: 1,1,1 snmp: 1,1,1\nip: 10.0.0.3 slp: 1,1,1,1 snmp: 1,1\n"
                            "ip: 10.0.0.4 slp: a,1,1,1 snmp: 1,1,1\n\x01\xff\xfe garbage";
         noise += '\0';
-        noise += "ip: 10.0.0.5\n";
-        QTest::newRow("comments, blank lines, short lines and garbage")
-            << noise + record("10.0.0.14", "1,0,0,1") << 4 << QStringList{"10.0.0.14 (socket)  Office"}
-            << "socket://10.0.0.14:9100";
-        QTest::newRow("the rest of an overlong line is no line")
-            << QByteArray(1030, 'x') + record("10.0.0.15", "0,0,0,0") + record("10.0.0.16", "0,0,0,0") << 4
-            << QStringList{"10.0.0.16 (IPP)  Office"} << "ipp://10.0.0.16/ipp/print";
-        QTest::newRow("nothing found") << QByteArray() << 4 << QStringList{} << "";
+        noise += "ip: 10.0.0.5\n" + QByteArray(1030, 'x') + record("10.0.0.15", "0,0,0,0");
+        row("comments, short lines, garbage, the rest of an overlong line", noise + record("10.0.0.14", "1,0,0,1"),
+            "10.0.0.14 (socket)  Office", "socket://10.0.0.14:9100");
+        row("nothing found", "", "", "");
+        row("no program", QByteArray(), "", "");
     }
 
-    // The list shows every record in order; the first one is the port.
+    // The first record listed is the port. Without a community the program
+    // gets no arguments.
     void results()
     {
         QFETCH(QByteArray, output);
         QFETCH(int, cupsVersion);
-        QFETCH(QStringList, entries);
+        QFETCH(QString, entry);
         QFETCH(QString, uri);
 
         CUPSManager::m_CUPSManagerInstance.CupsVersion = cupsVersion;
         WizardFixture f;
         QVERIFY(search(f, output));
-        QCOMPARE(this->entries(f), entries);
-        QCOMPARE(f.child<QComboBox>("NetworkList")->isEnabled(), !entries.isEmpty());
+        QCOMPARE(entries(f), entry.isEmpty() ? QStringList() : QStringList{ entry });
+        QCOMPARE(f.child<QComboBox>("NetworkList")->isEnabled(), !entry.isEmpty());
         QCOMPARE(f.wizard()->isPortAssigned(), !uri.isEmpty());
         QCOMPARE(f.child<PrinterPortListView>("PortsView")->selectedURI(), uri);
-        QCOMPARE(f.button(QWizard::NextButton)->isEnabled(), !uri.isEmpty());
-    }
-
-    void missingProgram()
-    {
-        WizardFixture f;
-        QVERIFY(search(f, record("10.0.0.5", "1,1,1,1"), false));
-        QCOMPARE(entries(f), QStringList());
-        QVERIFY(!f.child<QComboBox>("NetworkList")->isEnabled());
-        QVERIFY(!f.button(QWizard::NextButton)->isEnabled());
-    }
-
-    void community_data()
-    {
-        QTest::addColumn<QByteArray>("config");
-        QTest::addColumn<QString>("args");
-
-        QTest::newRow("no OEM.ini") << QByteArray() << "";
-        QTest::newRow("no community") << QByteArray("VENDOR=Acme\n") << "";
-        QTest::newRow("community") << QByteArray("VENDOR=Acme\nSNMP_COMMUNITY=private\n") << "[-c][private]";
-        QTest::newRow("shell characters stay text")
-            << QByteArray("SNMP_COMMUNITY=it's $HOME; `id`\n") << "[-c][it's $HOME; `id`]";
-    }
-
-    void community()
-    {
-        QFETCH(QByteArray, config);
-        QFETCH(QString, args);
-
-        WizardFixture f;
-        if (!config.isNull()) {
-            QFile ini(f.shareDir() + "/OEM.ini");
-            QVERIFY(ini.open(QIODevice::WriteOnly));
-            ini.write(config);
-        }
-        QVERIFY(search(f, record("10.0.0.5", "1,1,1,1")));
-        QFile recorded(f.rootDir() + "/bin/args");
-        QVERIFY(recorded.open(QIODevice::ReadOnly));
-        QCOMPARE(QString::fromUtf8(recorded.readAll()), args);
+        QCOMPARE(f.nextEnabled(), !uri.isEmpty());
+        QCOMPARE(arguments(f), QByteArray(output.isNull() ? "none" : ""));
     }
 
     // Another printer of the list becomes the port, and a search anew
-    // replaces the list; the driver follows the description.
+    // replaces the list; the driver follows the description. The SNMP
+    // community goes to the program as one argument.
     void choosingAndSearchingAgain()
     {
         WizardFixture f;
+        QVERIFY(writeFile(f.shareDir() + "/OEM.ini", "VENDOR=Acme\nSNMP_COMMUNITY=it's $HOME; `id`\n"));
         QVERIFY(search(f, record("10.0.0.1", "1,1,0,0", "Acme MFP 4200") + record("10.0.0.2", "1,1,0,0")));
         auto *list = f.child<QComboBox>("NetworkList");
         auto *ports = f.child<PrinterPortListView>("PortsView");
-        QCOMPARE(ports->selectedURI(), QStringLiteral("ipp://10.0.0.1/ipp/print"));
         QCOMPARE(f.child<QListWidget>("DriversList")->currentItem()->text(), QStringLiteral("Acme MFP 4200 Series"));
-
         list->setFocus();
         QTest::keyClick(list, Qt::Key_Down);
         QCOMPARE(ports->selectedURI(), QStringLiteral("ipp://10.0.0.2/ipp/print"));
-        QVERIFY(f.button(QWizard::NextButton)->isEnabled());
+        QVERIFY(f.nextEnabled());
+        QCOMPARE(arguments(f), QByteArray("[-c][it's $HOME; `id`]"));
 
-        QFile output(f.rootDir() + "/output");
-        QVERIFY(output.open(QIODevice::WriteOnly));
-        output.write(record("10.0.0.3", "1,0,0,0"));
-        output.close();
+        QVERIFY(writeFile(f.rootDir() + "/output", record("10.0.0.3", "1,0,0,0")));
         QTest::mouseClick(f.child<QPushButton>("SearchNetworkButton"), Qt::LeftButton);
-        QCOMPARE(entries(f), QStringList{"10.0.0.3 ()  Office"});
+        QCOMPARE(entries(f), QStringList{ "10.0.0.3 ()  Office" });
         QCOMPARE(ports->selectedURI(), QString());
-        QVERIFY(!f.button(QWizard::NextButton)->isEnabled());
-
-        output.open(QIODevice::WriteOnly);
-        output.write(record("10.0.0.4", "1,0,1,0"));
-        output.close();
-        QTest::mouseClick(f.child<QPushButton>("SearchNetworkButton"), Qt::LeftButton);
-        QCOMPARE(ports->selectedURI(), QStringLiteral("lpd://10.0.0.4/lp"));
-        QVERIFY(f.click(QWizard::NextButton));
-        QCOMPARE(f.wizard()->currentId(), int(W::DriverPage));
+        QVERIFY(!f.nextEnabled());
     }
 
 private:

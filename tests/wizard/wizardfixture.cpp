@@ -1,19 +1,19 @@
 #include "wizardfixture.h"
 
-#include "AddPrinterWizard.h"
 #include "fakemachine.h"
 #include "oemconfig.h"
+#include "printerportlistview.h"
 #include "queuewizuiloader.h"
 #include "testpaths.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
-#include <QPointer>
+#include <QRadioButton>
 #include <QTimer>
 #include <QtTest>
-
-#include <cstring>
 
 namespace {
 
@@ -38,14 +38,16 @@ WizardFixture::WizardFixture(const QString &machine)
     qstrncpy(actx.vendorUpper, "ACME", sizeof actx.vendorUpper);
 }
 
+WizardFixture::~WizardFixture() = default;
+
 bool WizardFixture::load(const QByteArray &form)
 {
     QString formPath = uiDir() + QStringLiteral("/AddPrinterWizardBase.ui");
     if (!form.isEmpty()) {
         formPath = m_root.filePath(QStringLiteral("wizard.ui"));
         QFile file(formPath);
-        if (file.open(QIODevice::WriteOnly))
-            file.write(form);
+        if (!file.open(QIODevice::WriteOnly) || file.write(form) != form.size())
+            return false;
     }
     UiLoader::loadImages(uiDir() + QStringLiteral("/images"));
     m_wizard.reset(QueuewizUiLoader::load(formPath, uiDir() + QStringLiteral("/wizardpagetitle.ui")));
@@ -53,18 +55,6 @@ bool WizardFixture::load(const QByteArray &form)
         return false;
     m_wizard->show();
     return QTest::qWaitForWindowExposed(m_wizard.get());
-}
-
-WizardFixture::~WizardFixture() = default;
-
-QString WizardFixture::rootDir() const
-{
-    return m_root.path();
-}
-
-QString WizardFixture::shareDir() const
-{
-    return m_root.filePath(QStringLiteral("share"));
 }
 
 bool WizardFixture::addScript(const QString &path, const QByteArray &script) const
@@ -76,9 +66,9 @@ bool WizardFixture::addScript(const QString &path, const QByteArray &script) con
     return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
-QAbstractButton *WizardFixture::button(QWizard::WizardButton which) const
+bool WizardFixture::nextEnabled() const
 {
-    return m_wizard->button(which);
+    return button(QWizard::NextButton)->isEnabled();
 }
 
 bool WizardFixture::click(QWizard::WizardButton which) const
@@ -90,38 +80,81 @@ bool WizardFixture::click(QWizard::WizardButton which) const
     return true;
 }
 
+void WizardFixture::clickRadio(const char *name) const
+{
+    auto *radio = child<QRadioButton>(name);
+    QTest::mouseClick(radio, Qt::LeftButton, {}, QPoint(radio->height() / 2, radio->height() / 2));
+}
+
+bool WizardFixture::clickItem(QAbstractItemView *view, const QString &text)
+{
+    QAbstractItemModel *model = view->model();
+    const QModelIndexList found = model->match(model->index(0, 0), Qt::DisplayRole, text, 1,
+                                               Qt::MatchExactly | Qt::MatchRecursive);
+    if (found.isEmpty())
+        return false;
+    view->scrollTo(found.first());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(found.first()).center());
+    return true;
+}
+
+QStringList WizardFixture::texts(const QAbstractItemModel *model)
+{
+    QStringList rows;
+    for (int i = 0; i < model->rowCount(); ++i)
+        rows << model->index(i, 0).data().toString();
+    return rows;
+}
+
+bool WizardFixture::toPortsPage() const
+{
+    if (!click(QWizard::NextButton))
+        return false;
+    clickRadio("OfflineButton");
+    return click(QWizard::NextButton) && m_wizard->currentId() == AddPrinterWizard::PortsPage;
+}
+
+QLineEdit *WizardFixture::renamePort(const QString &text) const
+{
+    auto *ports = child<PrinterPortListView>("PortsView");
+    if (!clickItem(ports, text))
+        return nullptr;
+    QTest::keyClick(ports, Qt::Key_F2);
+    return ports->findChild<QLineEdit *>();
+}
+
+bool WizardFixture::toNamePage(const QString &driver) const
+{
+    return m_wizard->currentId() == AddPrinterWizard::DriverPage && clickItem(child<QListWidget>("DriversList"), driver)
+        && click(QWizard::NextButton) && m_wizard->currentId() == AddPrinterWizard::NamePage;
+}
+
 QByteArray WizardFixture::programForm(const QByteArray &from, const QByteArray &to)
 {
     QFile file(uiDir() + QStringLiteral("/AddPrinterWizardBase.ui"));
     if (!file.open(QIODevice::ReadOnly))
         return QByteArray();
     QByteArray form = file.readAll();
-    if (!from.isEmpty())
-        form.replace(from, to);
-    return form;
+    return from.isEmpty() ? form : form.replace(from, to);
 }
 
 void WizardFixture::answerMessageBox(const QString &answer, QString *seen, int timeoutMs)
 {
     auto *timer = new QTimer;
-    auto *left = new int(timeoutMs / 20);
-    QObject::connect(timer, &QTimer::timeout, [timer, left, answer, seen] {
+    auto deadline = std::make_shared<QDeadlineTimer>(timeoutMs);
+    QObject::connect(timer, &QTimer::timeout, [timer, deadline, answer, seen] {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (box || --*left <= 0) {
+        if (box || deadline->hasExpired()) {
             timer->stop();
             timer->deleteLater();
-            delete left;
         }
         if (!box)
             return;
         if (seen)
             *seen = box->windowTitle() + QStringLiteral("|") + box->text();
-        const QList<QAbstractButton *> buttons = box->buttons();
-        for (QAbstractButton *b : buttons) {
-            if (b->text() == answer) {
-                QTest::mouseClick(b, Qt::LeftButton);
-                return;
-            }
+        for (QAbstractButton *b : box->buttons()) {
+            if (b->text() == answer)
+                return QTest::mouseClick(b, Qt::LeftButton);
         }
         box->reject();
     });

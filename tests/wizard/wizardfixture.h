@@ -3,20 +3,20 @@
 
 #include "AddPrinterWizard.h"
 
-#include <QByteArray>
-#include <QString>
 #include <QTemporaryDir>
 #include <QWizard>
 
 #include <memory>
 
 class FakeMachine;
+class QAbstractItemModel;
+class QAbstractItemView;
+class QLineEdit;
 
 // The program's wizard loaded from the tree's forms and shown offscreen,
-// with a package root (bin/, share/) and a machine of its own: the device
-// library sees the fixture machine (FakeMachine::build), the help folder
-// holds the program's help page, and only the sample vendor's drivers are
-// listed. Machine and share directory can be changed before load().
+// with a package root (bin/, share/ with the help page) and a fixture
+// machine (FakeMachine::build) of its own; only the sample vendor's drivers
+// are listed. Machine and share directory can be changed before load().
 class WizardFixture
 {
 public:
@@ -26,11 +26,10 @@ public:
     // Loads the program's form, or form when given, and shows the wizard.
     bool load(const QByteArray &form = QByteArray());
 
-    // Null when the form could not be loaded.
     AddPrinterWizard *wizard() const { return m_wizard.get(); }
     FakeMachine &machine() const { return *m_machine; }
-    QString rootDir() const;
-    QString shareDir() const;
+    QString rootDir() const { return m_root.path(); }
+    QString shareDir() const { return m_root.filePath(QStringLiteral("share")); }
     // Writes an executable script at path below the package root.
     bool addScript(const QString &path, const QByteArray &script) const;
 
@@ -40,15 +39,29 @@ public:
         return m_wizard->findChild<T *>(QLatin1String(name));
     }
 
-    QAbstractButton *button(QWizard::WizardButton which) const;
+    QAbstractButton *button(QWizard::WizardButton which) const { return m_wizard->button(which); }
+    bool nextEnabled() const;
     // Clicks a wizard button with the mouse; false when it is not usable.
     bool click(QWizard::WizardButton which) const;
+    // On the round mark: a radio button's text may be shorter than the button.
+    void clickRadio(const char *name) const;
+    // Clicks the row of a list or tree showing text; false when none does.
+    static bool clickItem(QAbstractItemView *view, const QString &text);
+    // The texts of a list's rows.
+    static QStringList texts(const QAbstractItemModel *model);
+
+    // From the welcome page to the ports page by the manual port type.
+    bool toPortsPage() const;
+    // Opens the in-place editor of the port entry showing text.
+    QLineEdit *renamePort(const QString &text) const;
+    // From the driver page with driver chosen to the name page.
+    bool toNamePage(const QString &driver) const;
 
     // The program's form with every occurrence of from replaced by to.
     static QByteArray programForm(const QByteArray &from = QByteArray(), const QByteArray &to = QByteArray());
 
     // Answers the next message box that opens within timeoutMs by clicking
-    // the button with the text answer; its text lands in *seen.
+    // the button with the text answer; "title|text" lands in *seen.
     static void answerMessageBox(const QString &answer, QString *seen, int timeoutMs = 5000);
 
 private:
