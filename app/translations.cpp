@@ -21,10 +21,12 @@ void install(QCoreApplication &app, const QString &name, const QString &dir)
 
 } // namespace
 
-void installTranslations(QCoreApplication &app)
+void installTranslations(QCoreApplication &app, const QString &localeName)
 {
     static const char *const names[] = { "queuewiz" };
-    const QString locale = QLocale::system().name();
+    if (!localeName.isEmpty())
+        QLocale::setDefault(QLocale(localeName));
+    const QString locale = localeName.isEmpty() ? QLocale::system().name() : localeName;
     const QString dir = QDir(QString::fromLocal8Bit(actx.shareDir)).filePath(QStringLiteral("tr"));
     for (const char *name : names)
         install(app, QString::fromLatin1(name) + QLatin1Char('-') + locale, dir);

@@ -17,11 +17,19 @@ const char *const _networkPort[4] = {
 
 namespace {
 
-// Group texts are compared when URIs are made, so they are not translated.
-const QString ParallelGroup = QStringLiteral("Parallel");
-const QString UsbGroup = QStringLiteral("USB");
-const QString NetworkGroup = QStringLiteral("Network");
-const QString FileGroup = QStringLiteral("File");
+// URIs are made from the group a device belongs to, so a group is told by
+// its English name, kept beside the shown (translated) one.
+const char *const GroupNames[] = {
+    QT_TRANSLATE_NOOP("PrinterPortListView", "Parallel"),
+    QT_TRANSLATE_NOOP("PrinterPortListView", "USB"),
+    QT_TRANSLATE_NOOP("PrinterPortListView", "Network"),
+    QT_TRANSLATE_NOOP("PrinterPortListView", "File"),
+};
+const QString ParallelGroup = QLatin1String(GroupNames[0]);
+const QString UsbGroup = QLatin1String(GroupNames[1]);
+const QString NetworkGroup = QLatin1String(GroupNames[2]);
+const QString FileGroup = QLatin1String(GroupNames[3]);
+constexpr int GroupNameRole = Qt::UserRole;
 const QString MfpTag = QStringLiteral("mfp");
 const QString NativeTag = QStringLiteral("native");
 
@@ -63,10 +71,10 @@ PrinterPortListView::PrinterPortListView(QWidget *parent, const char *name)
         item->setValidator(0, new UriValidator(scheme, ipv6, this));
         item->setRenameEnabled(0, true);
     };
-    auto *network = new QTreeWidgetItem(this, {NetworkGroup});
+    QTreeWidgetItem *network = addGroup(NetworkGroup, QString());
     for (int scheme = UriValidator::IppScheme; scheme <= UriValidator::SmbScheme; ++scheme)
         addEditable(network, scheme);
-    auto *file = new QTreeWidgetItem(this, {FileGroup});
+    QTreeWidgetItem *file = addGroup(FileGroup, QString());
     addEditable(file, UriValidator::FileScheme);
 
     expandAll();
@@ -74,17 +82,29 @@ PrinterPortListView::PrinterPortListView(QWidget *parent, const char *name)
     connect(this, &QTreeWidget::itemDoubleClicked, this, &PrinterPortListView::startRenameSelectedItem);
 }
 
+QTreeWidgetItem *PrinterPortListView::addGroup(const QString &name, const QString &tag)
+{
+    auto *group = new QTreeWidgetItem(this, {tr(name.toLatin1().constData()), tag});
+    group->setData(0, GroupNameRole, name);
+    return group;
+}
+
 void PrinterPortListView::addLocalGroup(const QString &name, const QString &tag, const QStringList &devices)
 {
-    auto *group = new QTreeWidgetItem(this, {name, tag});
+    QTreeWidgetItem *group = addGroup(name, tag);
     for (const QString &path : devices)
         new QTreeWidgetItem(group, {path});
 }
 
+QString PrinterPortListView::groupName(const QTreeWidgetItem *group)
+{
+    return group->data(0, GroupNameRole).toString();
+}
+
 bool PrinterPortListView::isLocalGroup(const QTreeWidgetItem *group)
 {
-    const QString text = group->text(0);
-    return text == ParallelGroup || text == UsbGroup;
+    const QString name = groupName(group);
+    return name == ParallelGroup || name == UsbGroup;
 }
 
 void PrinterPortListView::setMfpMode(bool mfpMode)
@@ -106,7 +126,7 @@ QString PrinterPortListView::itemURI(QTreeWidgetItem *item) const
         return QString();
     if (!QW_CHECK(item->parent(), "printerportlistview", 215))
         return QString();
-    const QString parent = item->parent()->text(0);
+    const QString parent = groupName(item->parent());
     const QString text = item->text(0);
     if (parent != ParallelGroup && parent != UsbGroup)
         return text;

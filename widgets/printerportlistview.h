@@ -53,7 +53,11 @@ public slots:
     void startRenameSelectedItem();
 
 private:
+    // A top-level entry that shows name in the user's language.
+    QTreeWidgetItem *addGroup(const QString &name, const QString &tag);
     void addLocalGroup(const QString &name, const QString &tag, const QStringList &devices);
+    // The English name of a group, whatever language it shows.
+    static QString groupName(const QTreeWidgetItem *group);
     static bool isLocalGroup(const QTreeWidgetItem *group);
 
     bool m_mfpMode = false;

@@ -161,9 +161,21 @@ void AddPrinterWizard::connectSlots()
     connect(m_pNetworkList, qOverload<int>(&QComboBox::activated), this, &AddPrinterWizard::OnNetworkPrinterChanged);
 }
 
+// A translated page is in help/de/ or, closer to the user's locale, help/de_AT/.
 QString AddPrinterWizard::helpUrl(const QString &page)
 {
-    return QUrl::fromLocalFile(QDir(shareDir()).absoluteFilePath(QStringLiteral("help/") + page)).toString();
+    const QDir help(QDir(shareDir()).absoluteFilePath(QStringLiteral("help")));
+    const QUrl relative(page);
+    const QString locale = QLocale().name();
+    QString path = help.filePath(relative.path());
+    for (const QString &language : {locale.section(QLatin1Char('_'), 0, 0), locale}) {
+        const QString translated = help.filePath(language + QLatin1Char('/') + relative.path());
+        if (QFileInfo::exists(translated))
+            path = translated;
+    }
+    QUrl url = QUrl::fromLocalFile(path);
+    url.setFragment(relative.fragment());
+    return url.toString();
 }
 
 // A relative address names a page of the package's help folder.
@@ -175,7 +187,7 @@ void AddPrinterWizard::hideMissingNetworkHelp()
         return;
     }
     if (url.isRelative()) {
-        url = QUrl(helpUrl(QString())).resolved(url);
+        url = QUrl(helpUrl(url.toString()));
         m_pConfigureNetworkButton->setUrl(url.toString());
     }
     if (url.isLocalFile() && !QFileInfo::exists(url.toLocalFile()))

@@ -96,7 +96,8 @@ private:
     bool commitPrinter();
     void showError(const QString &text, const QString &details = QString());
     void connectSlots();
-    // A page of the package's help folder, as a file URL.
+    // A page ("name.htm#anchor") of the package's help folder as a file URL,
+    // in the user's language when it has been translated.
     static QString helpUrl(const QString &page);
 
     QGroupBox *m_pConnectedPrintersGroup = nullptr;

@@ -16,6 +16,16 @@ QString field(const char *text, size_t size)
     return QString::fromUtf8(text, static_cast<qsizetype>(qstrnlen(text, size)));
 }
 
+// "%s on %s" as the user's language words it, cut at its two "%s": before
+// the model, between model and device path, after the path.
+QStringList labelParts()
+{
+    QStringList parts = QCoreApplication::translate("AddPrinterWizard", "%s on %s").split(QLatin1String("%s"));
+    if (parts.size() != 3)
+        parts = QStringList{ QString(), QStringLiteral(" on "), QString() };
+    return parts;
+}
+
 } // namespace
 
 QString LocalDeviceList::Device::driverModel() const
@@ -77,14 +87,18 @@ const LocalDeviceList::Device *LocalDeviceList::find(const QString &label) const
 QString LocalDeviceList::label(const QString &model, const QString &devicePath)
 {
     const QString name = model.isEmpty() ? QCoreApplication::translate("AddPrinterWizard", "Unknown model") : model;
-    return QString::asprintf("%s on %s", qUtf8Printable(name), qUtf8Printable(devicePath));
+    const QStringList parts = labelParts();
+    return parts[0] + name + parts[1] + devicePath + parts[2];
 }
 
 QString LocalDeviceList::devicePathOf(const QString &label)
 {
-    static const QString on = QStringLiteral(" on ");
-    const qsizetype at = label.lastIndexOf(on);
-    return at < 0 ? QString() : label.mid(at + on.size());
+    const QStringList parts = labelParts();
+    const qsizetype at = label.lastIndexOf(parts[1]);
+    if (at < 0 || !label.endsWith(parts[2]))
+        return QString();
+    const qsizetype start = at + parts[1].size();
+    return label.mid(start, label.size() - parts[2].size() - start);
 }
 
 QString LocalDeviceList::idValue(const QString &deviceId, const QStringList &keys)

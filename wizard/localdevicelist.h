@@ -36,9 +36,11 @@ public:
     // The device shown with label, or null.
     const Device *find(const QString &label) const;
 
-    // "%s on %s"; a device without model name is an "Unknown model".
+    // "%s on %s" in the user's language; a device without model name is an
+    // "Unknown model".
     static QString label(const QString &model, const QString &devicePath);
-    // The device path of a label: the text after its last " on ".
+    // The device path of a label: the text after its last " on " (or what
+    // the translation puts there).
     static QString devicePathOf(const QString &label);
     // The value of the first of keys present in an IEEE 1284 device ID
     // ("MFG:Acme;MDL:Laser 1610;"), keys compared without regard to case;

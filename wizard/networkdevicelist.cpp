@@ -3,6 +3,8 @@
 #include "mfp.h"
 #include "waitcursor.h"
 
+#include <QCoreApplication>
+
 #include <cctype>
 #include <cstdio>
 #include <cstring>
@@ -89,7 +91,11 @@ QString NetworkDeviceList::Device::deviceUri() const
 
 QString NetworkDeviceList::Device::entryText() const
 {
-    return QStringLiteral("%1 (%2)  %3").arg(address, protocolText(), description);
+    // The stand-in for a missing description is shown in the user's language.
+    const QString shown = description == QLatin1String("UNKNOWN")
+        ? QCoreApplication::translate("AddPrinterWizard", "UNKNOWN")
+        : description;
+    return QStringLiteral("%1 (%2)  %3").arg(address, protocolText(), shown);
 }
 
 QByteArray NetworkDeviceList::command(const char *rootDir, const char *shareDir)

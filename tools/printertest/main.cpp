@@ -4,12 +4,16 @@
 
 #include "cupsmanager.h"
 #include "cupsprinter.h"
+#include "oemconfig.h"
 #include "papersize.h"
 #include "testsheet.h"
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QHostInfo>
+#include <QLocale>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 #include <cstdio>
 
@@ -26,6 +30,13 @@ int main(int argc, char **argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
+
+    // The sheet speaks the user's language, as the wizard does.
+    QTranslator translator;
+    readOemConfig(argv[0]);
+    if (translator.load(QStringLiteral("queuewiz-") + QLocale::system().name(),
+                        QDir(QString::fromLocal8Bit(actx.shareDir)).filePath(QStringLiteral("tr"))))
+        app.installTranslator(&translator);
 
     if (argc != 2 || argv[1][0] == '\0') {
         fprintf(stderr, "usage: printertest QUEUE\n");
@@ -57,7 +68,9 @@ int main(int argc, char **argv)
     }
 
     CUPSJob job;
-    if (!cups.printFile(printer, QStringLiteral("Test page"), QStringLiteral("application/pdf"), pdf, &job)) {
+    // The job's name is what print queue windows list.
+    const QString jobName = QCoreApplication::translate("TestSheet", "Test page");
+    if (!cups.printFile(printer, jobName, QStringLiteral("application/pdf"), pdf, &job)) {
         fprintf(stderr, "printertest: the printer '%s' did not take the test page (%s)\n", argv[1],
                 cups.lastStatusText().toLocal8Bit().constData());
         return kFailed;

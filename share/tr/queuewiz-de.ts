@@ -1,0 +1,548 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>AddPrinterWizard</name>
+    <message>
+        <source>Printer &apos;%s&apos; already exists! Choose another name.</source>
+        <translation>Der Drucker „%s“ ist bereits vorhanden. Bitte wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>Can&apos;t add printer!</source>
+        <translation>Der Drucker konnte nicht hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>Error!</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Add printer Wizard</source>
+        <translation>Assistent „Drucker hinzufügen“</translation>
+    </message>
+    <message>
+        <source>Printer is not installed. Are you sure to cancel wizard?</source>
+        <translation>Der Drucker wurde nicht eingerichtet. Möchten Sie den Assistenten wirklich abbrechen?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Unknown model</source>
+        <translation>Unbekanntes Modell</translation>
+    </message>
+    <message>
+        <source>%s on %s</source>
+        <translation>%s an %s</translation>
+    </message>
+    <message>
+        <source>UNKNOWN</source>
+        <translation>UNBEKANNT</translation>
+    </message>
+</context>
+<context>
+    <name>AddPrinterWizardBase</name>
+    <message>
+        <source>Add Printer</source>
+        <translation>Drucker hinzufügen</translation>
+    </message>
+    <message>
+        <source>Welcome to the Add Printer Wizard</source>
+        <translation>Willkommen beim Druckerassistenten</translation>
+    </message>
+    <message>
+        <source>This wizard sets up a new printer on this computer in a few steps.</source>
+        <translation>Dieser Assistent richtet in wenigen Schritten einen neuen Drucker auf diesem Computer ein.</translation>
+    </message>
+    <message>
+        <source>Introduction</source>
+        <translation>Einführung</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;The wizard will ask you for:&lt;/p&gt;&lt;ol&gt;&lt;li&gt;how the printer is attached: by cable, over the network, or not yet connected,&lt;/li&gt;&lt;li&gt;the printer model, so that the right driver is used,&lt;/li&gt;&lt;li&gt;a name for the new printer.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;It then adds the printer, makes it your default printer and lets you print a test page.&lt;/p&gt;&lt;p&gt;Click &lt;b&gt;Next&lt;/b&gt; to begin.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Der Assistent fragt Sie nach:&lt;/p&gt;&lt;ol&gt;&lt;li&gt;der Art, wie der Drucker angeschlossen ist: per Kabel, über das Netzwerk oder noch gar nicht,&lt;/li&gt;&lt;li&gt;dem Druckermodell, damit der passende Treiber verwendet wird,&lt;/li&gt;&lt;li&gt;einem Namen für den neuen Drucker.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;Anschließend richtet er den Drucker ein, macht ihn zu Ihrem Standarddrucker und bietet Ihnen an, eine Testseite zu drucken.&lt;/p&gt;&lt;p&gt;Klicken Sie auf &lt;b&gt;Weiter&lt;/b&gt;, um zu beginnen.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Printer Connection</source>
+        <translation>Druckerverbindung</translation>
+    </message>
+    <message>
+        <source>Choose how the printer is attached. A printer that is not plugged in yet can be set up with a port you choose yourself.</source>
+        <translation>Wählen Sie, wie der Drucker angeschlossen ist. Einen Drucker, der noch nicht eingesteckt ist, können Sie mit einem selbst gewählten Anschluss einrichten.</translation>
+    </message>
+    <message>
+        <source>How is the printer attached?</source>
+        <translation>Wie ist der Drucker angeschlossen?</translation>
+    </message>
+    <message>
+        <source>&amp;Local printer, attached by USB or parallel cable</source>
+        <translation>&amp;Lokaler Drucker, per USB- oder Parallelkabel angeschlossen</translation>
+    </message>
+    <message>
+        <source>Local printer</source>
+        <translation>Lokaler Drucker</translation>
+    </message>
+    <message>
+        <source>&amp;Printer:</source>
+        <translation>&amp;Drucker:</translation>
+    </message>
+    <message>
+        <source>Local printer list label</source>
+        <translation>Beschriftung der Liste lokaler Drucker</translation>
+    </message>
+    <message>
+        <source>Local printers</source>
+        <translation>Lokale Drucker</translation>
+    </message>
+    <message>
+        <source>Net&amp;work printer</source>
+        <translation>&amp;Netzwerkdrucker</translation>
+    </message>
+    <message>
+        <source>Network printer</source>
+        <translation>Netzwerkdrucker</translation>
+    </message>
+    <message>
+        <source>P&amp;rinter found:</source>
+        <translation>&amp;Gefundener Drucker:</translation>
+    </message>
+    <message>
+        <source>Network printer list label</source>
+        <translation>Beschriftung der Liste der Netzwerkdrucker</translation>
+    </message>
+    <message>
+        <source>Network printers</source>
+        <translation>Gefundene Netzwerkdrucker</translation>
+    </message>
+    <message>
+        <source>&amp;Search Network</source>
+        <translation>Netzwerk d&amp;urchsuchen</translation>
+    </message>
+    <message>
+        <source>Search the network for printers</source>
+        <translation>Das Netzwerk nach Druckern durchsuchen</translation>
+    </message>
+    <message>
+        <source>Look for printers on the local network</source>
+        <translation>Sucht im lokalen Netzwerk nach Druckern</translation>
+    </message>
+    <message>
+        <source>&amp;About Network Printers...</source>
+        <translation>&amp;Info zu Netzwerkdruckern...</translation>
+    </message>
+    <message>
+        <source>Help on network printers</source>
+        <translation>Hilfe zu Netzwerkdruckern</translation>
+    </message>
+    <message>
+        <source>How to connect a network printer and find its address</source>
+        <translation>So schließen Sie einen Netzwerkdrucker an und finden seine Adresse heraus</translation>
+    </message>
+    <message>
+        <source>Printer not &amp;connected now: choose the port yourself</source>
+        <translation>Drucker derzeit nicht angeschlossen: &amp;Anschluss selbst wählen</translation>
+    </message>
+    <message>
+        <source>Printer not connected now</source>
+        <translation>Drucker derzeit nicht angeschlossen</translation>
+    </message>
+    <message>
+        <source>Printer picture</source>
+        <translation>Bild des Druckers</translation>
+    </message>
+    <message>
+        <source>Printer Port</source>
+        <translation>Druckeranschluss</translation>
+    </message>
+    <message>
+        <source>Choose the port the printer will use. For a network printer or a file, double-click its entry (or press F2) and type the address, for example socket://192.168.1.20.</source>
+        <translation>Wählen Sie den Anschluss, den der Drucker verwenden soll. Für einen Netzwerkdrucker oder eine Datei doppelklicken Sie auf den Eintrag (oder drücken F2) und geben die Adresse ein, zum Beispiel socket://192.168.1.20.</translation>
+    </message>
+    <message>
+        <source>Ports label</source>
+        <translation>Beschriftung der Anschlüsse</translation>
+    </message>
+    <message>
+        <source>&amp;Ports:</source>
+        <translation>&amp;Anschlüsse:</translation>
+    </message>
+    <message>
+        <source>Printer ports</source>
+        <translation>Druckeranschlüsse</translation>
+    </message>
+    <message>
+        <source>Printer Model</source>
+        <translation>Druckermodell</translation>
+    </message>
+    <message>
+        <source>Choose the model of your printer. The list shows the drivers of this package.</source>
+        <translation>Wählen Sie das Modell Ihres Druckers. Die Liste zeigt die Treiber dieses Pakets.</translation>
+    </message>
+    <message>
+        <source>Printer models label</source>
+        <translation>Beschriftung der Druckermodelle</translation>
+    </message>
+    <message>
+        <source>Printer &amp;models:</source>
+        <translation>&amp;Druckermodelle:</translation>
+    </message>
+    <message>
+        <source>Printer models</source>
+        <translation>Druckermodelle</translation>
+    </message>
+    <message>
+        <source>Printer Name</source>
+        <translation>Druckername</translation>
+    </message>
+    <message>
+        <source>Give the printer a short name (letters, digits and underscores). Location and description are optional and help others find it.</source>
+        <translation>Geben Sie dem Drucker einen kurzen Namen (Buchstaben, Ziffern und Unterstriche). Standort und Beschreibung sind optional und helfen anderen, ihn zu finden.</translation>
+    </message>
+    <message>
+        <source>Printer name label</source>
+        <translation>Beschriftung des Druckernamens</translation>
+    </message>
+    <message>
+        <source>Printer n&amp;ame:</source>
+        <translation>Drucker&amp;name:</translation>
+    </message>
+    <message>
+        <source>Printer name</source>
+        <translation>Name des Druckers</translation>
+    </message>
+    <message>
+        <source>Location label</source>
+        <translation>Beschriftung des Standorts</translation>
+    </message>
+    <message>
+        <source>&amp;Location:</source>
+        <translation>Stand&amp;ort:</translation>
+    </message>
+    <message>
+        <source>Printer location</source>
+        <translation>Standort des Druckers</translation>
+    </message>
+    <message>
+        <source>for example: Room 2.14</source>
+        <translation>zum Beispiel: Raum 2.14</translation>
+    </message>
+    <message>
+        <source>Description label</source>
+        <translation>Beschriftung der Beschreibung</translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation>&amp;Beschreibung:</translation>
+    </message>
+    <message>
+        <source>Printer description</source>
+        <translation>Beschreibung des Druckers</translation>
+    </message>
+    <message>
+        <source>for example: Laser printer by the window</source>
+        <translation>zum Beispiel: Laserdrucker am Fenster</translation>
+    </message>
+    <message>
+        <source>Printer Added</source>
+        <translation>Drucker hinzugefügt</translation>
+    </message>
+    <message>
+        <source>The printer is ready to use.</source>
+        <translation>Der Drucker ist betriebsbereit.</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;The printer &lt;b&gt;%1&lt;/b&gt; has been added and is now your default printer.&lt;/p&gt;&lt;p&gt;Model: %2&lt;br&gt;Port: %3&lt;/p&gt;&lt;p&gt;Print a test page to check that everything works, or adjust the driver options. Click &lt;b&gt;Finish&lt;/b&gt; to close the wizard.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Der Drucker &lt;b&gt;%1&lt;/b&gt; wurde hinzugefügt und ist jetzt Ihr Standarddrucker.&lt;/p&gt;&lt;p&gt;Modell: %2&lt;br&gt;Anschluss: %3&lt;/p&gt;&lt;p&gt;Drucken Sie eine Testseite, um zu prüfen, ob alles funktioniert, oder passen Sie die Treiberoptionen an. Klicken Sie auf &lt;b&gt;Abschließen&lt;/b&gt;, um den Assistenten zu schließen.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Zusammenfassung</translation>
+    </message>
+    <message>
+        <source>Print &amp;Test Page</source>
+        <translation>&amp;Testseite drucken</translation>
+    </message>
+    <message>
+        <source>Print a test page</source>
+        <translation>Eine Testseite drucken</translation>
+    </message>
+    <message>
+        <source>Driver &amp;Options...</source>
+        <translation>Treiber&amp;optionen...</translation>
+    </message>
+    <message>
+        <source>Driver options</source>
+        <translation>Treiberoptionen</translation>
+    </message>
+</context>
+<context>
+    <name>BrowserLauncher</name>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Web browser not found.
+Use that address:
+%1</source>
+        <translation>Es wurde kein Webbrowser gefunden.
+Verwenden Sie diese Adresse:
+%1</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Error starting %1</source>
+        <translation>Fehler beim Starten von %1</translation>
+    </message>
+</context>
+<context>
+    <name>CUPSPrinter</name>
+    <message>
+        <source>idle</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>processing</source>
+        <translation>druckt</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>Zustand unbekannt</translation>
+    </message>
+    <message>
+        <source>accepting jobs</source>
+        <translation>nimmt Aufträge an</translation>
+    </message>
+    <message>
+        <source>rejecting jobs</source>
+        <translation>weist Aufträge ab</translation>
+    </message>
+</context>
+<context>
+    <name>IPPRequest</name>
+    <message>
+        <source>Authorization</source>
+        <translation>Authentifizierung</translation>
+    </message>
+    <message>
+        <source>Please, enter the root password:</source>
+        <translation>Bitte geben Sie das root-Passwort ein:</translation>
+    </message>
+</context>
+<context>
+    <name>PPDBooleanViewBase</name>
+    <message>
+        <source>PPD Boolean Option</source>
+        <translation>PPD-Option Ja/Nein</translation>
+    </message>
+    <message>
+        <source>Choice1 text</source>
+        <translation>Text der Auswahl 1</translation>
+    </message>
+    <message>
+        <source>Choice2 text</source>
+        <translation>Text der Auswahl 2</translation>
+    </message>
+</context>
+<context>
+    <name>PPDDialog</name>
+    <message>
+        <source>Error!</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Can&apos;t open PPD file!</source>
+        <translation>Die PPD-Datei kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Can&apos;t save results to PPD file!</source>
+        <translation>Die Einstellungen können nicht in der PPD-Datei gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; Properties</source>
+        <translation>Eigenschaften von „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>PPDDialogBase</name>
+    <message>
+        <source>%s options... </source>
+        <translation>Optionen für %s... </translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>PPDNumericViewBase</name>
+    <message>
+        <source>PPD Numeric Option</source>
+        <translation>Numerische PPD-Option</translation>
+    </message>
+    <message>
+        <source>Value:</source>
+        <translation>Wert:</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>Min.</translation>
+    </message>
+    <message>
+        <source>max</source>
+        <translation>Max.</translation>
+    </message>
+</context>
+<context>
+    <name>PPDOptionView</name>
+    <message>
+        <source>No option selected</source>
+        <translation>Keine Option ausgewählt</translation>
+    </message>
+</context>
+<context>
+    <name>PPDTree::OptionItem</name>
+    <message>
+        <source>Undefined</source>
+        <translation>Nicht festgelegt</translation>
+    </message>
+</context>
+<context>
+    <name>PPDTreeView</name>
+    <message>
+        <source>You selected options that are in conflict. Try to resolve the
+problem before continuing:
+</source>
+        <translation>Sie haben Optionen gewählt, die sich widersprechen. Bitte lösen Sie
+den Konflikt, bevor Sie fortfahren:
+</translation>
+    </message>
+    <message>
+        <source>Driver configuration</source>
+        <translation>Treiberkonfiguration</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPortListView</name>
+    <message>
+        <source>IPP</source>
+        <translation>IPP</translation>
+    </message>
+    <message>
+        <source>AppSocket</source>
+        <translation>AppSocket</translation>
+    </message>
+    <message>
+        <source>LPR/LPD</source>
+        <translation>LPR/LPD</translation>
+    </message>
+    <message>
+        <source>SMB</source>
+        <translation>SMB</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Anschluss</translation>
+    </message>
+    <message>
+        <source>Parallel</source>
+        <translation>Parallele Schnittstelle</translation>
+    </message>
+    <message>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+</context>
+<context>
+    <name>TestSheet</name>
+    <message>
+        <source>Test page for %1</source>
+        <translation>Testseite für %1</translation>
+    </message>
+    <message>
+        <source>Printer test page</source>
+        <translation>Testseite des Druckers</translation>
+    </message>
+    <message>
+        <source>Printer:</source>
+        <translation>Drucker:</translation>
+    </message>
+    <message>
+        <source>Driver:</source>
+        <translation>Treiber:</translation>
+    </message>
+    <message>
+        <source>Connection:</source>
+        <translation>Anschluss:</translation>
+    </message>
+    <message>
+        <source>Computer:</source>
+        <translation>Computer:</translation>
+    </message>
+    <message>
+        <source>Printed:</source>
+        <translation>Gedruckt am:</translation>
+    </message>
+    <message>
+        <source>Paper:</source>
+        <translation>Papier:</translation>
+    </message>
+    <message>
+        <source>If you can read this page, the printer works. Both frames should be complete, the grey steps distinct and the colours clean.</source>
+        <translation>Wenn Sie diese Seite lesen können, funktioniert der Drucker. Beide Rahmen sollten vollständig, die Graustufen klar unterscheidbar und die Farben sauber sein.</translation>
+    </message>
+    <message>
+        <source>Test page</source>
+        <translation>Testseite</translation>
+    </message>
+</context>
+<context>
+    <name>TourGuide</name>
+    <message>
+        <source>Room 2.14</source>
+        <translation>Raum 2.14</translation>
+    </message>
+    <message>
+        <source>The loopback printer of the demo</source>
+        <translation>Der Loopback-Drucker der Demo</translation>
+    </message>
+</context>
+<context>
+    <name>WizardPageTitleBase</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Untertitel</translation>
+    </message>
+</context>
+</TS>
