@@ -112,6 +112,25 @@ void insertDriver(QMap<QString, CUPSDriver> &drivers, QSet<QString> &sharedModel
     insertUnique(drivers, taggedKey(driver), driver);
 }
 
+// The queues of a listing, one attribute group each, separated by an
+// attribute without a name; take() gets every record that has a name.
+template <class Record, class Take>
+void forEachRecord(ipp_t *response, Take take)
+{
+    Record record;
+    const auto finish = [&] {
+        if (!record.Name().isEmpty())
+            take(record);
+        record = Record();
+    };
+    for (ipp_attribute_t *attr = ippFirstAttribute(response); attr; attr = ippNextAttribute(response)) {
+        record.fillFrom(attr);
+        if (!ippGetName(attr))
+            finish();
+    }
+    finish();
+}
+
 } // namespace
 
 CUPSManager::CUPSManager()
@@ -401,22 +420,11 @@ bool CUPSManager::fetchPrinters(QMap<QString, CUPSPrinter> &printers, int type, 
     request.addKeywordList("requested-attributes", queueAttributes());
     if (!send(request))
         return false;
-    ipp_t *response = request.response();
-    CUPSPrinter printer;
-    auto finish = [&]() {
-        if (!printer.Name().isEmpty()) {
-            completeListed(printer);
-            if (printer.Driver().matchesVendor(filter))
-                printers.insert(printer.Name(), printer);
-        }
-        printer = CUPSPrinter();
-    };
-    for (ipp_attribute_t *attr = ippFirstAttribute(response); attr; attr = ippNextAttribute(response)) {
-        printer.fillFrom(attr);
-        if (!ippGetName(attr))
-            finish();
-    }
-    finish();
+    forEachRecord<CUPSPrinter>(request.response(), [&](CUPSPrinter &printer) {
+        completeListed(printer);
+        if (printer.Driver().matchesVendor(filter))
+            printers.insert(printer.Name(), printer);
+    });
     IPPLog::flush(IPPLog::Printer);
     return true;
 }
@@ -439,21 +447,10 @@ bool CUPSManager::listClasses(QMap<QString, CUPSClass> &classes)
                            queueAttributes() << QStringLiteral("member-uris") << QStringLiteral("member-names"));
     if (!send(request))
         return false;
-    ipp_t *response = request.response();
-    CUPSClass cls;
-    auto finish = [&]() {
-        if (!cls.Name().isEmpty()) {
-            completeListed(cls);
-            classes.insert(cls.Name(), cls);
-        }
-        cls = CUPSClass();
-    };
-    for (ipp_attribute_t *attr = ippFirstAttribute(response); attr; attr = ippNextAttribute(response)) {
-        cls.fillFrom(attr);
-        if (!ippGetName(attr))
-            finish();
-    }
-    finish();
+    forEachRecord<CUPSClass>(request.response(), [&](CUPSClass &cls) {
+        completeListed(cls);
+        classes.insert(cls.Name(), cls);
+    });
     IPPLog::flush(IPPLog::Class);
     IPPLog::flush(IPPLog::Printer);
     return true;
