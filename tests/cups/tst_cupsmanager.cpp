@@ -234,9 +234,13 @@ private slots:
             QCOMPARE(drivers.value(u"Acme Laser 1610 Series (de)"_s).DriverFile(), u"acme-laser1610-de.ppd"_s);
     }
 
+    // The version probe falls back to the scheduler's "Server" header where
+    // no package answers; the scheduler here is the installed CUPS.
     void schedulerDown()
     {
+        QCOMPARE(CUPSManager::probeServerVersion(), CUPS_VERSION_MINOR);
         QVERIFY(m_sandbox.stop());
+        QCOMPARE(CUPSManager::probeServerVersion(), -1);
         QMap<QString, CUPSDriver> drivers{{u"stale"_s, CUPSDriver()}};
         QVERIFY(!manager.listDrivers(drivers, u"ACME"_s));
         QVERIFY(drivers.isEmpty());
