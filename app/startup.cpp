@@ -51,19 +51,24 @@ bool haveDisplay()
         || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-// Asking for the usage must work in a terminal without a display too.
-void allowUsageWithoutDisplay(int argc, char **argv)
+// Without a display Qt can't start at all. Asking for the usage (or
+// getting it for a bad command line) still works in a plain terminal; the
+// wizard itself needs a window, so say so rather than let Qt abort.
+bool prepareForNoDisplay(int argc, char **argv)
 {
     if (haveDisplay())
-        return;
-    for (int i = 1; i < argc; ++i) {
-        if (strcmp(argv[i], "--") == 0)
-            break;
-        if (argv[i][0] == '-') {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-            return;
-        }
+        return true;
+    const int keptOpterr = opterr;
+    opterr = 0; // the real parse below reports the errors
+    const CommandLineOptions early(argc, argv, kShortOptions, kLongOptions);
+    opterr = keptOpterr;
+    if (early.contains(QStringLiteral("h")) || early.contains(QStringLiteral("-"))) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return true;
     }
+    fprintf(stderr, "queuewiz: there is no display to show the wizard on (DISPLAY is not set).\n"
+                    "Start it from a desktop session.\n");
+    return false;
 }
 
 } // namespace
@@ -75,7 +80,8 @@ int queuewizMain(int argc, char **argv)
         fflush(stdout);
     }
 
-    allowUsageWithoutDisplay(argc, argv);
+    if (!prepareForNoDisplay(argc, argv))
+        return 1;
     QtSingleApplication app(QStringLiteral("AddPrinterWizard_SingleApplication"), argc, argv);
     // Another instance of this user on this display takes over: wake it and go.
     if (app.sendMessage(QStringLiteral("Wake up!!!"), 5000))

@@ -162,6 +162,39 @@ private slots:
         QTest::newRow("missing form") << ui << QByteArray() << true << 254 << QStringList{};
     }
 
+    // In a terminal without any display: the usage still works, the wizard
+    // says what it lacks instead of letting Qt abort.
+    void withoutDisplay_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("error");
+
+        QTest::newRow("wizard") << QStringList{} << 1 << "queuewiz: there is no display to show the wizard on";
+        QTest::newRow("--help") << QStringList{ "--help" } << 0 << "";
+        QTest::newRow("bad option, reported once") << QStringList{ "--bogus" } << 255 << "unrecognized option '--bogus'";
+    }
+
+    void withoutDisplay()
+    {
+        QFETCH(QStringList, words);
+        QFETCH(int, status);
+        QFETCH(QString, error);
+        QProcess p;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        for (const char *name : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" })
+            env.remove(QString::fromLatin1(name));
+        p.setProcessEnvironment(env);
+        p.start(TestPaths::binaryDir() + "/app/queuewiz", words);
+        QVERIFY(p.waitForFinished(30000));
+        QCOMPARE(p.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(p.exitCode(), status);
+        const QString err = QString::fromLocal8Bit(p.readAllStandardError());
+        QCOMPARE(err.count("queuewiz"), error.isEmpty() ? 0 : 1);
+        QVERIFY2(err.contains(error), qPrintable(err));
+        QCOMPARE(QString::fromLocal8Bit(p.readAllStandardOutput()).contains("USAGE:"), status != 1);
+    }
+
     // The program from a package tree of its own: it finds OEM.ini beside
     // its own location.
     void program()
