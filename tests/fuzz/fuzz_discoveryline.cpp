@@ -1,0 +1,35 @@
+// A line of the discovery program's output as the wizard reads it: the
+// record keeps its limits, and a URI comes exactly with a scheme.
+#include "networkdevicelist.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    if (size < 1)
+        return 0;
+    // The reader hands over at most LineMax characters, without the line end.
+    std::string line(reinterpret_cast<const char *>(data + 1), size - 1);
+    line = line.substr(0, NetworkDeviceList::LineMax);
+    line = line.substr(0, line.find_first_of("\r\n"));
+
+    NetworkDeviceList list;
+    const int cupsVersion = data[0] % 4;
+    if (!list.addLine(line.c_str(), cupsVersion))
+        return 0;
+    const NetworkDeviceList::Device &d = list.at(0);
+    // The limits are in bytes of the line; every byte makes at most one
+    // character (a byte that is not text becomes a replacement character).
+    if (d.address.size() > NetworkDeviceList::AddressMax || d.description.size() > NetworkDeviceList::DescriptionMax)
+        abort();
+    if (d.isIPv6() && cupsVersion < 2)
+        abort();
+    const QString uri = d.deviceUri();
+    if (uri.isEmpty() != d.uriScheme().isNull() || (!uri.isEmpty() && !uri.startsWith(d.uriScheme() + QLatin1String("://"))))
+        abort();
+    (void)d.entryText();
+    return 0;
+}
