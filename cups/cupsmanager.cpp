@@ -207,6 +207,8 @@ int CUPSManager::probeServerVersion()
 
 QString CUPSManager::lastStatusText() const
 {
+    if (LastStatus == 0 && !m_lastError.isEmpty())
+        return m_lastError;
     return IPPRequest::statusText(LastStatus);
 }
 
@@ -224,6 +226,7 @@ bool CUPSManager::send(IPPRequest &request, const char *resource)
 {
     const bool answered = request.Execute(resource);
     LastStatus = request.response() ? ippGetStatusCode(request.response()) : 0;
+    m_lastError = request.response() ? QString() : IPPRequest::lastError();
     return answered;
 }
 

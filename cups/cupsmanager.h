@@ -42,7 +42,8 @@ public:
     // The scheduler's driver directory, "/usr/share/cups/model/".
     static QString m_DriversDir;
 
-    // The fixed text of LastStatus.
+    // What the user is told of the last request: the fixed text of
+    // LastStatus, or, when no answer came, why (IPPRequest::lastError()).
     QString lastStatusText() const;
 
     // The URI of a printer or a class: "ipp://localhost/printers/NAME" when
@@ -130,6 +131,10 @@ public:
     static int probeServerVersion();
 
 private:
+    // Why the last request sent through send() got no answer; empty when
+    // one came.
+    QString m_lastError;
+
     static int probeCupsVersion();
     static int probePackageVersion(bool *answered);
 

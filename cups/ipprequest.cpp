@@ -3,6 +3,7 @@
 #include "ipplog.h"
 #include "passworddialog.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <sys/socket.h>
@@ -23,6 +24,21 @@ bool s_rootAuthenticated = false;
 // make libcups ask forever.
 bool s_savedOffered = false;
 IPPRequest::PasswordAsker s_asker = nullptr;
+QString s_lastError;
+
+// "localhost:631", or the path of the local socket.
+QString serverName()
+{
+    const QString server = QString::fromUtf8(cupsServer());
+    if (server.startsWith(QLatin1Char('/')))
+        return server;
+    return server + QLatin1Char(':') + QString::number(ippPort());
+}
+
+QString notAnswering()
+{
+    return QCoreApplication::translate("IPPRequest", "The printing service at %1 does not answer").arg(serverName());
+}
 
 void wipe(QByteArray &bytes)
 {
@@ -140,8 +156,10 @@ bool IPPRequest::Execute(const char *resource)
     s_savedOffered = false;
     m_connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                                     ConnectTimeoutMs, nullptr));
-    if (!m_connection)
+    if (!m_connection) {
+        setLastError(notAnswering());
         return false;
+    }
     httpSetTimeout(m_connection.get(), AnswerTimeoutSeconds, nullptr, nullptr);
 
     IPPLog::line(IPPLog::Request, "Requesting operation 0x%x...", static_cast<unsigned>(m_operation));
@@ -152,8 +170,11 @@ bool IPPRequest::Execute(const char *resource)
     if (!m_response) {
         IPPLog::line(IPPLog::Request, "Requesting failed!\n");
         IPPLog::flush(IPPLog::Request);
+        const QString reason = QString::fromUtf8(cupsLastErrorString());
+        setLastError(reason.isEmpty() ? notAnswering() : reason);
         return false;
     }
+    setLastError(QString());
     IPPLog::line(IPPLog::Request, "Result status: %s\n",
                  statusText(ippGetStatusCode(m_response.get())).toLocal8Bit().constData());
     IPPLog::flush(IPPLog::Request);
@@ -197,6 +218,16 @@ QString IPPRequest::statusText(int status)
         return QString::asprintf("Unknown code (%d=0x%x)", status, static_cast<unsigned>(status));
     }
     return QString::fromLatin1(text);
+}
+
+QString IPPRequest::lastError()
+{
+    return s_lastError;
+}
+
+void IPPRequest::setLastError(const QString &error)
+{
+    s_lastError = error;
 }
 
 void IPPRequest::setPasswordAsker(PasswordAsker asker)

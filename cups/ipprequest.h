@@ -58,6 +58,10 @@ public:
 
     // The fixed text of an IPP status code for logs and messages.
     static QString statusText(int status);
+    // Why the last Execute got no answer (no connection, a broken or timed
+    // out answer, a cancelled password prompt), for messages; empty when an
+    // answer arrived.
+    static QString lastError();
 
     // Asks the user for the root password; returns false when cancelled.
     using PasswordAsker = bool (*)(QString *password);
@@ -73,6 +77,7 @@ public:
 
 private:
     static void setUpAuthentication();
+    static void setLastError(const QString &error);
     void addString(ipp_tag_t valueTag, const char *name, const char *value, ipp_tag_t group);
     void addStringList(ipp_tag_t valueTag, const char *name, const QStringList &values, ipp_tag_t group);
 
