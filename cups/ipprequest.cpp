@@ -240,13 +240,15 @@ bool IPPRequest::Execute(const char *resource)
     if (!m_response && copy && cupsLastError() == IPP_STATUS_ERROR_FORBIDDEN && s_offered == 0
         && administratorCredentials()) {
         IPPLog::line(IPPLog::Request, "Requesting operation 0x%x again...", static_cast<unsigned>(m_operation));
+        // The connection would send the refused peer credentials again.
+        httpSetAuthString(m_connection.get(), nullptr, nullptr);
         m_response.reset(cupsDoFileRequest(m_connection.get(), copy.release(), target.constData(), upload));
     }
     if (!m_response) {
         IPPLog::line(IPPLog::Request, "Requesting failed!\n");
         IPPLog::flush(IPPLog::Request);
         // Credentials that got the user nowhere are not offered again.
-        if (s_offered > 0)
+        if (s_offered > 0 || s_credentials.fresh)
             s_credentials.clear();
         const QString reason = s_authFailure.isEmpty() ? QString::fromUtf8(cupsLastErrorString()) : s_authFailure;
         setLastError(reason.isEmpty() ? notAnswering() : reason);

@@ -49,9 +49,15 @@ bool PasswordDialog::ask(const QString &prompt, QString *user, QString *password
     // A QCoreApplication (or none) can't show a dialog; that counts as cancel.
     if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return false;
+    // Over the wizard, also when another program has the focus.
     QWidget *parent = QApplication::activeModalWidget();
     if (!parent)
         parent = QApplication::activeWindow();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (auto it = windows.cbegin(); !parent && it != windows.cend(); ++it) {
+        if ((*it)->isVisible())
+            parent = *it;
+    }
     PasswordDialog dialog(prompt, user ? *user : QString(), parent);
     const bool confirmed = dialog.exec() == QDialog::Accepted;
     QString typed = dialog.takePassword();

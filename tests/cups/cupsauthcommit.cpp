@@ -1,8 +1,8 @@
 // Makes a queue as the wizard's commit step does, as whoever runs it (the
 // test runs it as an unprivileged account):
 //     tst_cupsauth_commit QUEUE PPD-NAME PAPER
-// Prints "password asked" if the scheduler wanted a password (none is
-// given), then "created", "paper" and "default" with 1 or 0.
+// Prints "password asked" for each question for a password, then "created"
+// (with the reason), "paper" and "default" with 1 or 0.
 #include "cupsmanager.h"
 #include "ipprequest.h"
 #include "printercreator.h"
@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 
 #include <cstdio>
+#include <utility>
 
 int main(int argc, char **argv)
 {
@@ -17,9 +18,13 @@ int main(int argc, char **argv)
     const QStringList args = app.arguments();
     if (args.size() != 4)
         return 2;
-    IPPRequest::setPasswordAsker([](const QString &, QString *, QString *) {
+    // The first question gets a wrong password for root, the next a cancel.
+    IPPRequest::setPasswordAsker([](const QString &, QString *user, QString *password) {
+        static bool answered = false;
         std::puts("password asked");
-        return false;
+        *user = QStringLiteral("root");
+        *password = QStringLiteral("wrong");
+        return !std::exchange(answered, true);
     });
     CUPSManager &cups = CUPSManager::m_CUPSManagerInstance;
     const PrinterCreator creator(cups);

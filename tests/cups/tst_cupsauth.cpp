@@ -95,7 +95,8 @@ private slots:
         QTest::newRow("lpadmin reading the terminal")
             << "nobody:nogroup" << QByteArray("read answer </dev/tty\nsleep 20") << true << done;
         QTest::newRow("not a member") << "daemon:daemon" << QByteArray() << false
-                                      << QByteArray("password asked\ncreated 0 Authentication cancelled\n");
+                                      << QByteArray("password asked\npassword asked\n"
+                                                    "created 0 Authentication cancelled\n");
     }
 
     // An account in the system group adds a queue over the local socket
