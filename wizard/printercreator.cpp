@@ -92,7 +92,7 @@ bool PrinterCreator::isPaperDefault(const QString &queue, const char *paper) con
 bool PrinterCreator::applyPaperSize(const QString &queue, const char *paper) const
 {
     if (isPaperDefault(queue, paper))
-        return false;
+        return true;
 
     const QString size = QString::fromLatin1(paper);
     // Detached: in a session of its own, with no terminal to ask a password
