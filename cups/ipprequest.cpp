@@ -7,7 +7,6 @@
 #include <QFile>
 
 #include <sys/socket.h>
-#include <unistd.h>
 
 namespace {
 
@@ -16,15 +15,73 @@ namespace {
 constexpr int ConnectTimeoutMs = 10000;
 constexpr double AnswerTimeoutSeconds = 120.0;
 
-QString s_savedPassword;
-QByteArray s_passwordBytes; // what libcups reads; kept alive here
-bool s_rootAuthenticated = false;
-// Set once the saved password was offered during the current request: if the
-// scheduler asks again, it has refused it, and offering it once more would
-// make libcups ask forever.
-bool s_savedOffered = false;
+QString cancelled()
+{
+    return QCoreApplication::translate("IPPRequest", "Authentication cancelled");
+}
+
+void wipe(QByteArray &bytes)
+{
+    bytes.fill('\0');
+    bytes.clear();
+}
+
+void wipe(QString &text)
+{
+    text.fill(QChar(0));
+    text.clear();
+}
+
+// Name and password that the user typed, in the locale's encoding (as the
+// system's tools pass them); libcups reads the password from here.
+struct Credentials
+{
+    QByteArray user;
+    QByteArray password;
+    bool accepted = false; // an answer came to a request that offered them
+    bool fresh = false;    // typed for the current request before libcups asked
+
+    ~Credentials() { clear(); }
+    void clear()
+    {
+        wipe(password);
+        user.clear();
+        accepted = false;
+        fresh = false;
+    }
+};
+
+Credentials s_credentials;
+// The user libcups names when nobody typed another one, read once before
+// this program changes it.
+QByteArray s_processUser;
+// Passwords offered during the current request: when the scheduler asks
+// again it refused the last one; libcups itself would ask forever.
+int s_offered = 0;
+// Why the password callback gave the current request up.
+QString s_authFailure;
 IPPRequest::PasswordAsker s_asker = nullptr;
 QString s_lastError;
+
+// A request's authentication starts and ends as the program's user, so that
+// peer credentials on the local socket apply and other libcups calls don't
+// go on naming a user typed for one request.
+class AuthenticationScope
+{
+public:
+    AuthenticationScope() { reset(); }
+    ~AuthenticationScope() { reset(); }
+    AuthenticationScope(const AuthenticationScope &) = delete;
+    AuthenticationScope &operator=(const AuthenticationScope &) = delete;
+
+private:
+    static void reset()
+    {
+        s_offered = 0;
+        s_credentials.fresh = false;
+        cupsSetUser(s_processUser.constData());
+    }
+};
 
 // "localhost:631", or the path of the local socket.
 QString serverName()
@@ -35,15 +92,24 @@ QString serverName()
     return server + QLatin1Char(':') + QString::number(ippPort());
 }
 
+bool onLocalSocket()
+{
+    return cupsServer()[0] == '/';
+}
+
+// Another request with the same operation and attributes.
+ipp_t *copyOf(ipp_t *request)
+{
+    ipp_t *copy = ippNew();
+    ippSetOperation(copy, ippGetOperation(request));
+    ippSetRequestId(copy, ippGetRequestId(request));
+    ippCopyAttributes(copy, request, 0, nullptr, nullptr);
+    return copy;
+}
+
 QString notAnswering()
 {
     return QCoreApplication::translate("IPPRequest", "The printing service at %1 does not answer").arg(serverName());
-}
-
-void wipe(QByteArray &bytes)
-{
-    bytes.fill('\0');
-    bytes.clear();
 }
 
 } // namespace
@@ -74,10 +140,9 @@ IPPRequest::~IPPRequest() = default;
 
 void IPPRequest::setUpAuthentication()
 {
-    cupsSetPasswordCB(&IPPRequest::passwordCallback);
-    cupsSetUser("root");
-    if (!s_rootAuthenticated)
-        s_rootAuthenticated = getuid() == 0;
+    cupsSetPasswordCB2(&IPPRequest::passwordCallback, nullptr);
+    if (s_processUser.isEmpty())
+        s_processUser = cupsUser();
 }
 
 void IPPRequest::addString(ipp_tag_t valueTag, const char *name, const char *value, ipp_tag_t group)
@@ -153,7 +218,8 @@ bool IPPRequest::Execute(const char *resource)
     if (target.isEmpty())
         return false;
 
-    s_savedOffered = false;
+    const AuthenticationScope scope;
+    s_authFailure.clear();
     m_connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
                                     ConnectTimeoutMs, nullptr));
     if (!m_connection) {
@@ -164,13 +230,27 @@ bool IPPRequest::Execute(const char *resource)
 
     IPPLog::line(IPPLog::Request, "Requesting operation 0x%x...", static_cast<unsigned>(m_operation));
     const QByteArray file = QFile::encodeName(m_fileName);
+    const char *upload = m_fileName.isEmpty() ? nullptr : file.constData();
+    // On the local socket the scheduler knows the user by the peer
+    // credentials and refuses one outside its system group without asking
+    // for a password: the copy is sent again with an administrator's.
+    IppPtr copy(onLocalSocket() ? copyOf(m_request.get()) : nullptr);
     // cupsDoFileRequest frees the request whatever happens.
-    m_response.reset(cupsDoFileRequest(m_connection.get(), m_request.release(), target.constData(),
-                                       m_fileName.isEmpty() ? nullptr : file.constData()));
+    m_response.reset(cupsDoFileRequest(m_connection.get(), m_request.release(), target.constData(), upload));
+    if (!m_response && copy && cupsLastError() == IPP_STATUS_ERROR_FORBIDDEN && s_offered == 0
+        && administratorCredentials()) {
+        IPPLog::line(IPPLog::Request, "Requesting operation 0x%x again...", static_cast<unsigned>(m_operation));
+        // The connection would send the refused peer credentials again.
+        httpSetAuthString(m_connection.get(), nullptr, nullptr);
+        m_response.reset(cupsDoFileRequest(m_connection.get(), copy.release(), target.constData(), upload));
+    }
     if (!m_response) {
         IPPLog::line(IPPLog::Request, "Requesting failed!\n");
         IPPLog::flush(IPPLog::Request);
-        const QString reason = QString::fromUtf8(cupsLastErrorString());
+        // Credentials that got the user nowhere are not offered again.
+        if (s_offered > 0 || s_credentials.fresh)
+            s_credentials.clear();
+        const QString reason = s_authFailure.isEmpty() ? QString::fromUtf8(cupsLastErrorString()) : s_authFailure;
         setLastError(reason.isEmpty() ? notAnswering() : reason);
         return false;
     }
@@ -180,8 +260,8 @@ bool IPPRequest::Execute(const char *resource)
     IPPLog::flush(IPPLog::Request);
     if (ippGetState(m_response.get()) == IPP_STATE_ERROR)
         return false;
-    if (!s_savedPassword.isNull())
-        s_rootAuthenticated = true;
+    if (s_offered > 0)
+        s_credentials.accepted = true;
     return true;
 }
 
@@ -235,40 +315,75 @@ void IPPRequest::setPasswordAsker(PasswordAsker asker)
     s_asker = asker;
 }
 
-const char *IPPRequest::passwordCallback(const char * /*prompt*/)
+const char *IPPRequest::passwordCallback(const char *prompt, http_t *http, const char * /*method*/,
+                                         const char * /*resource*/, void * /*data*/)
 {
-    if (!s_savedPassword.isNull() && s_rootAuthenticated && !s_savedOffered) {
-        s_savedOffered = true;
-        return s_passwordBytes.constData();
-    }
-    s_rootAuthenticated = false;
-    QString typed;
-    const bool confirmed = (s_asker ? s_asker : &askRootPassword)(&typed);
-    wipe(s_passwordBytes);
-    if (!confirmed) {
-        s_savedPassword = QString();
+    if (s_offered >= MaxPasswordAttempts) {
+        // The scheduler's answer to the last password, as libcups words it.
+        const http_status_t status = http ? httpGetStatus(http) : HTTP_STATUS_UNAUTHORIZED;
+        s_authFailure = QString::fromUtf8(httpStatus(status >= HTTP_STATUS_BAD_REQUEST ? status
+                                                                                        : HTTP_STATUS_UNAUTHORIZED));
         return nullptr;
     }
-    s_savedPassword = typed.isNull() ? QString(QLatin1String("")) : typed;
-    // The password as the system's tools would pass it: in the locale's encoding.
-    s_passwordBytes = s_savedPassword.toLocal8Bit();
-    s_savedOffered = true;
-    return s_passwordBytes.constData();
+    if ((s_credentials.accepted || s_credentials.fresh) && s_offered == 0) {
+        ++s_offered;
+        cupsSetUser(s_credentials.user.constData());
+        return s_credentials.password.constData();
+    }
+    QString user = QString::fromLocal8Bit(cupsUser());
+    QString password;
+    const bool confirmed = (s_asker ? s_asker : &PasswordDialog::ask)(QString::fromUtf8(prompt), &user, &password);
+    s_credentials.clear();
+    if (!confirmed) {
+        wipe(password);
+        s_authFailure = cancelled();
+        return nullptr;
+    }
+    s_credentials.user = user.isEmpty() ? s_processUser : user.toLocal8Bit();
+    s_credentials.password = password.toLocal8Bit();
+    wipe(password);
+    ++s_offered;
+    // libcups sends the name that cupsUser() gives once this returns.
+    cupsSetUser(s_credentials.user.constData());
+    return s_credentials.password.constData();
 }
 
-bool IPPRequest::rootAuthenticated()
+bool IPPRequest::administratorCredentials()
 {
-    return s_rootAuthenticated;
+    // Accepted credentials of another account are tried first.
+    if (s_credentials.accepted && s_credentials.user != s_processUser) {
+        s_credentials.fresh = true;
+        cupsSetUser(s_credentials.user.constData());
+        return true;
+    }
+    const QString prompt = QCoreApplication::translate("IPPRequest", "%1 may not change the printers of this "
+                                                                     "computer. Name and password of an administrator:")
+                               .arg(QString::fromLocal8Bit(s_processUser));
+    QString user;
+    QString password;
+    const bool confirmed = (s_asker ? s_asker : &PasswordDialog::ask)(prompt, &user, &password);
+    s_credentials.clear();
+    if (!confirmed || user.isEmpty()) {
+        wipe(password);
+        s_authFailure = cancelled();
+        return false;
+    }
+    s_credentials.user = user.toLocal8Bit();
+    s_credentials.password = password.toLocal8Bit();
+    s_credentials.fresh = true;
+    wipe(password);
+    // Another name than the program's user keeps libcups from sending the
+    // peer credentials again; the scheduler then asks for the password.
+    cupsSetUser(s_credentials.user.constData());
+    return true;
 }
 
 bool IPPRequest::hasSavedPassword()
 {
-    return !s_savedPassword.isNull();
+    return s_credentials.accepted;
 }
 
 void IPPRequest::forgetPassword()
 {
-    s_savedPassword = QString();
-    wipe(s_passwordBytes);
-    s_rootAuthenticated = getuid() == 0;
+    s_credentials.clear();
 }

@@ -11,10 +11,11 @@
 // completed with the adders, sent once with Execute and destroyed. The answer
 // lives as long as the object.
 //
-// The class also keeps the process-wide authentication state: every request
-// is made as user root; when the scheduler asks for a password, the user is
-// asked for the root password once, and the answer is offered again without
-// asking while the scheduler keeps accepting it.
+// The class also keeps the process-wide authentication state. Requests are
+// made as the user who runs the program, so that on the local socket a
+// member of the scheduler's system group needs no password. When the
+// scheduler still wants one, the user is asked for a name and a password;
+// credentials that were accepted are offered again without asking.
 class IPPRequest
 {
 public:
@@ -59,25 +60,31 @@ public:
     // The fixed text of an IPP status code for logs and messages.
     static QString statusText(int status);
     // Why the last Execute got no answer (no connection, a broken or timed
-    // out answer, a cancelled password prompt), for messages; empty when an
-    // answer arrived.
+    // out answer, a cancelled password prompt, passwords refused), for
+    // messages; empty when an answer arrived.
     static QString lastError();
 
-    // Asks the user for the root password; returns false when cancelled.
-    using PasswordAsker = bool (*)(QString *password);
+    // How often one request may offer a password that the scheduler refuses.
+    static constexpr int MaxPasswordAttempts = 3;
+    // Asks the user for credentials, showing libcups' prompt; *user comes
+    // filled with the name asked for. Returns false when cancelled.
+    using PasswordAsker = bool (*)(const QString &prompt, QString *user, QString *password);
     // Replaces the password dialog (tests answer without a window); nullptr
     // restores the dialog.
     static void setPasswordAsker(PasswordAsker asker);
-    // The callback that libcups calls when the scheduler wants a password.
-    static const char *passwordCallback(const char *prompt);
-    static bool rootAuthenticated();
+    // Whether credentials that the scheduler accepted are kept.
     static bool hasSavedPassword();
-    // Forgets the saved password; the next demand asks the user again.
+    // Forgets (and wipes) the kept credentials; the next demand asks again.
     static void forgetPassword();
 
 private:
     static void setUpAuthentication();
     static void setLastError(const QString &error);
+    // Credentials of an administrator for a request refused to the
+    // program's user; false when the user cancelled.
+    static bool administratorCredentials();
+    static const char *passwordCallback(const char *prompt, http_t *http, const char *method,
+                                        const char *resource, void *data);
     void addString(ipp_tag_t valueTag, const char *name, const char *value, ipp_tag_t group);
     void addStringList(ipp_tag_t valueTag, const char *name, const QStringList &values, ipp_tag_t group);
 

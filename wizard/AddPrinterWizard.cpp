@@ -42,8 +42,6 @@ Q_LOGGING_CATEGORY(lcLayout, "queuewiz.layout", QtWarningMsg)
 
 constexpr int DriverFetchAttempts = 50;
 constexpr useconds_t DriverFetchPause = 200000;
-// How long closing the wizard waits for a test page still being sent.
-constexpr int TestPageExitWaitMs = 10000;
 
 QString shareDir()
 {
@@ -67,11 +65,13 @@ AddPrinterWizard::AddPrinterWizard(QWidget *parent, const QString &name)
 
 AddPrinterWizard::~AddPrinterWizard()
 {
-    // A test page on its way is not cut off by closing the wizard.
+    // A test page on its way is not cut off by closing the wizard: deleting
+    // the process object would kill the program, so the object stays until
+    // the program has ended, or for good when this process quits first.
     if (m_pTestPrinterProcess) {
         m_pTestPrinterProcess->disconnect(this);
-        WaitCursor wait;
-        m_pTestPrinterProcess->waitForFinished(TestPageExitWaitMs);
+        m_pTestPrinterProcess->setParent(nullptr);
+        connect(m_pTestPrinterProcess, &QProcess::finished, m_pTestPrinterProcess, &QObject::deleteLater);
     }
 }
 
@@ -555,6 +555,8 @@ void AddPrinterWizard::PrintTestPage()
     process->setStandardInputFile(QProcess::nullDevice());
     process->setStandardOutputFile(QProcess::nullDevice());
     process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    // A session of its own: no terminal to stop it or to end it with.
+    process->setChildProcessModifier([] { ::setsid(); });
     connect(process, &QProcess::finished, this, &AddPrinterWizard::OnTestPrinterProcessExited);
     process->start(program, {printer.Name()});
     if (!process->waitForStarted()) {

@@ -2,6 +2,7 @@
 
 #include "cupsmanager.h"
 #include "cupsprinter.h"
+#include "ppddialog.h"
 #include "ppdfileptr.h"
 #include "tempfile.h"
 
@@ -10,9 +11,47 @@
 #include <QFileInfo>
 #include <QMap>
 #include <QProcess>
+#include <QThread>
+
+#include <cstdio>
+#include <signal.h>
+#include <unistd.h>
 
 #include <cups/cups.h>
 #include <cups/ppd.h>
+
+namespace {
+
+struct FileCloser
+{
+    void operator()(FILE *file) const { std::fclose(file); }
+};
+using FilePtr = std::unique_ptr<FILE, FileCloser>;
+
+// A temporary copy of the PPD at path with the default lines of ppd's
+// marked choices, as the options dialog writes them; empty on failure.
+QByteArray rewrittenCopy(ppd_file_t *ppd, const QString &path)
+{
+    const FilePtr in(std::fopen(QFile::encodeName(path).constData(), "r"));
+    if (!in)
+        return QByteArray();
+    char outputPath[1024];
+    const int fd = cupsTempFd(outputPath, sizeof outputPath);
+    if (fd < 0)
+        return QByteArray();
+    TempFile output(outputPath);
+    FilePtr out(fdopen(fd, "w"));
+    if (!out) {
+        ::close(fd);
+        return QByteArray();
+    }
+    PPDDialog::rewriteDefaults(ppd, in.get(), out.get());
+    if (std::ferror(out.get()) || std::fclose(out.release()) != 0)
+        return QByteArray();
+    return QFile::encodeName(output.release());
+}
+
+} // namespace
 
 QString PrinterCreator::m_LpadminProgram = QStringLiteral("lpadmin");
 
@@ -53,34 +92,63 @@ bool PrinterCreator::isPaperDefault(const QString &queue, const char *paper) con
 bool PrinterCreator::applyPaperSize(const QString &queue, const char *paper) const
 {
     if (isPaperDefault(queue, paper))
-        return false;
+        return true;
 
     const QString size = QString::fromLatin1(paper);
-    // Parented to the application: when lpadmin takes longer than the wait,
-    // it goes on after the wizard has moved on.
-    auto *lpadmin = new QProcess(QCoreApplication::instance());
-    lpadmin->setProcessEnvironment(cupsClientEnvironment());
-    lpadmin->setStandardInputFile(QProcess::nullDevice());
-    lpadmin->setStandardOutputFile(QProcess::nullDevice());
-    lpadmin->setStandardErrorFile(QProcess::nullDevice());
-    lpadmin->start(m_LpadminProgram, {QStringLiteral("-p"), queue, QStringLiteral("-o"),
-                                      QStringLiteral("PageSize=") + size, QStringLiteral("-o"),
-                                      QStringLiteral("PageRegion=") + size});
-    if (!lpadmin->waitForStarted()) {
-        qWarning("%s could not be started: %s", qPrintable(m_LpadminProgram), qPrintable(lpadmin->errorString()));
-        delete lpadmin;
+    // Detached: in a session of its own, with no terminal to ask a password
+    // on and no standard input, so that it can neither stop this process
+    // nor wait unseen; and the wizard's exit does not end it.
+    QProcess lpadmin;
+    lpadmin.setProgram(m_LpadminProgram);
+    lpadmin.setArguments({QStringLiteral("-p"), queue, QStringLiteral("-o"), QStringLiteral("PageSize=") + size,
+                          QStringLiteral("-o"), QStringLiteral("PageRegion=") + size});
+    lpadmin.setProcessEnvironment(cupsClientEnvironment());
+    lpadmin.setStandardInputFile(QProcess::nullDevice());
+    lpadmin.setStandardOutputFile(QProcess::nullDevice());
+    lpadmin.setStandardErrorFile(QProcess::nullDevice());
+    qint64 pid = 0;
+    if (lpadmin.startDetached(&pid)) {
+        for (int poll = 0; poll < LpadminPolls && isRunning(pid); ++poll)
+            QThread::msleep(LpadminPollMs);
+    } else {
+        qWarning("%s could not be started", qPrintable(m_LpadminProgram));
+    }
+    // lpadmin may have been refused (it can't ask for a password), be slow,
+    // or be missing: then the driver file is changed through this program's
+    // own, authenticated connection.
+    return isPaperDefault(queue, paper) || setPaperInDriver(queue, paper);
+}
+
+bool PrinterCreator::setPaperInDriver(const QString &queue, const char *paper) const
+{
+    const TempFile fetched(cupsGetPPD(queue.toUtf8().constData()));
+    if (fetched.isNull())
         return false;
-    }
-    // Each poll returns as soon as lpadmin has ended.
-    for (int poll = 0; poll < LpadminPolls; ++poll) {
-        if (lpadmin->waitForFinished(LpadminPollMs))
-            break;
-    }
-    if (lpadmin->state() == QProcess::NotRunning)
-        delete lpadmin;
-    else
-        QObject::connect(lpadmin, &QProcess::finished, lpadmin, &QObject::deleteLater);
-    return true;
+    const PpdFilePtr ppd(ppdOpenFile(QFile::encodeName(fetched.path()).constData()));
+    if (!ppd || !ppdFindChoice(ppdFindOption(ppd.get(), "PageSize"), paper))
+        return false;
+    ppdMarkDefaults(ppd.get());
+    // Marking either of the two unmarks the other: a pass for each.
+    ppdMarkOption(ppd.get(), "PageSize", paper);
+    const QByteArray sizedPath = rewrittenCopy(ppd.get(), fetched.path());
+    const TempFile sized(sizedPath.isEmpty() ? nullptr : sizedPath.constData());
+    if (sized.isNull())
+        return false;
+    ppdMarkOption(ppd.get(), "PageRegion", paper);
+    const QByteArray regionPath = rewrittenCopy(ppd.get(), sized.path());
+    const TempFile region(regionPath.isEmpty() ? nullptr : regionPath.constData());
+    return !region.isNull() && m_cups.attachDriverFile(queue, region.path());
+}
+
+bool PrinterCreator::isRunning(qint64 pid)
+{
+    // Once it has ended the system reaps it; a zombie counts as ended.
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!stat.open(QIODevice::ReadOnly))
+        return ::kill(static_cast<pid_t>(pid), 0) == 0;
+    const QByteArray line = stat.readAll();
+    const int state = line.lastIndexOf(')') + 2;
+    return state > 1 && state < line.size() && line.at(state) != 'Z' && line.at(state) != 'X';
 }
 
 bool PrinterCreator::makeDefault(const QString &queue) const

@@ -32,10 +32,16 @@ public:
     // Whether the default page size of the queue's driver is paper; a
     // driver file that can't be fetched or read counts as no.
     bool isPaperDefault(const QString &queue, const char *paper) const;
-    // Makes paper the queue's default page size with lpadmin unless it is
-    // already; waits for lpadmin about five seconds at most and leaves it
-    // running after that. True when lpadmin was started.
+    // Makes paper the queue's default page size unless it is already: with
+    // lpadmin, started detached and waited for about five seconds at most
+    // (it goes on after that, also once the wizard has quit), and when the
+    // paper is still not the default then, with setPaperInDriver(). True
+    // when the paper is the default.
     bool applyPaperSize(const QString &queue, const char *paper) const;
+    // Uploads the queue's PPD with paper as the PageSize and PageRegion
+    // default, through this program's authenticated connection. False when
+    // the driver has no such paper or the scheduler refused.
+    bool setPaperInDriver(const QString &queue, const char *paper) const;
 
     // Makes the queue the scheduler's default printer, through the first of
     // its URIs; false when it is not listed or the scheduler refused.
@@ -51,6 +57,9 @@ public:
     static QProcessEnvironment cupsClientEnvironment();
 
 private:
+    // Whether the process pid has not ended yet.
+    static bool isRunning(qint64 pid);
+
     CUPSManager &m_cups;
 };
 

@@ -332,12 +332,27 @@ Verwenden Sie diese Adresse:
 <context>
     <name>IPPRequest</name>
     <message>
+        <source>Authentication cancelled</source>
+        <translation>Anmeldung abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
+        <translation>%1 darf die Drucker dieses Computers nicht ändern. Name und Passwort eines Administrators:</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
         <source>Authorization</source>
         <translation>Authentifizierung</translation>
     </message>
     <message>
-        <source>Please, enter the root password:</source>
-        <translation>Bitte geben Sie das root-Passwort ein:</translation>
+        <source>User name:</source>
+        <translation>Benutzername:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
     </message>
 </context>
 <context>

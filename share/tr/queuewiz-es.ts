@@ -332,12 +332,27 @@ Use esta dirección:
 <context>
     <name>IPPRequest</name>
     <message>
+        <source>Authentication cancelled</source>
+        <translation>Autenticación cancelada</translation>
+    </message>
+    <message>
+        <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
+        <translation>%1 no puede cambiar las impresoras de este equipo. Nombre y contraseña de un administrador:</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
         <source>Authorization</source>
         <translation>Autenticación</translation>
     </message>
     <message>
-        <source>Please, enter the root password:</source>
-        <translation>Introduzca la contraseña de root:</translation>
+        <source>User name:</source>
+        <translation>Nombre de usuario:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Contraseña:</translation>
     </message>
 </context>
 <context>

@@ -332,12 +332,27 @@ Utilisez cette adresse&#xa0;:
 <context>
     <name>IPPRequest</name>
     <message>
+        <source>Authentication cancelled</source>
+        <translation>Authentification annulée</translation>
+    </message>
+    <message>
+        <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
+        <translation>%1 n&apos;a pas le droit de modifier les imprimantes de cet ordinateur. Nom et mot de passe d&apos;un administrateur&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
         <source>Authorization</source>
         <translation>Authentification</translation>
     </message>
     <message>
-        <source>Please, enter the root password:</source>
-        <translation>Veuillez saisir le mot de passe root&#xa0;:</translation>
+        <source>User name:</source>
+        <translation>Nom d&apos;utilisateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe&#xa0;:</translation>
     </message>
 </context>
 <context>

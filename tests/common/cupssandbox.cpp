@@ -150,6 +150,7 @@ bool CupsSandbox::start(QString *error)
         command << QStringLiteral("--model") << model;
     for (const QString &assignment : std::as_const(m_env))
         command << QStringLiteral("--setenv") << assignment;
+    command << m_policy;
     QString output;
     const int status = run(command, &output, 90000);
     m_server = readTrimmed(directory() + QStringLiteral("/server"));
@@ -227,6 +228,18 @@ bool CupsSandbox::addModel(const QString &path)
 void CupsSandbox::setEnv(const QString &name, const QString &value)
 {
     m_env << name + QLatin1Char('=') + value;
+}
+
+void CupsSandbox::setStockPolicy(const QString &systemGroup)
+{
+    m_policy = QStringList{QStringLiteral("--stock-policy")};
+    if (!systemGroup.isEmpty())
+        m_policy << QStringLiteral("--system-group") << systemGroup;
+}
+
+QString CupsSandbox::socketPath() const
+{
+    return directory() + QStringLiteral("/cups.sock");
 }
 
 QString CupsSandbox::errorLog() const

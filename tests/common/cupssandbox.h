@@ -61,6 +61,13 @@ public:
     // Sets an environment variable for the scheduler's filters, backends and
     // device listing; takes effect at the next start().
     void setEnv(const QString &name, const QString &value);
+    // From the next start(): the access policy of a stock Debian scheduler
+    // (administration for members of systemGroup, by default root's group:
+    // without a password on socketPath(), with Basic authentication over
+    // TCP) instead of letting anyone do anything. The socket is open to
+    // every account, and so is the directory as long as its parents are.
+    void setStockPolicy(const QString &systemGroup = QString());
+    QString socketPath() const;
     QString errorLog() const;
     // Points libcups of this process and child programs at this scheduler
     // (only while it runs).
@@ -72,6 +79,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
     QStringList m_models;
     QStringList m_env;
+    QStringList m_policy;
     QString m_server;
 };
 

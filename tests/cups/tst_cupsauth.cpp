@@ -2,29 +2,35 @@
 #include "cupssandbox.h"
 #include "ipplog.h"
 #include "ipprequest.h"
-#include "requests.h"
+#include "printercreator.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include <signal.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
 CUPSManager &manager = CUPSManager::m_CUPSManagerInstance;
 
-// The password dialog's stand-in: answers from a script and counts questions.
+// The password dialog's stand-in: answers from a script and records what it
+// was shown.
 struct PasswordScript
 {
     QStringList answers; // cancels when none is left
     int asked = 0;
+    QString prompt;
+    QString user;
 } s_script;
 
-bool scriptedAnswer(QString *password)
+bool scriptedAnswer(const QString &prompt, QString *user, QString *password)
 {
     ++s_script.asked;
+    s_script.prompt = prompt;
+    s_script.user = *user;
     if (s_script.answers.isEmpty())
         return false;
     *password = s_script.answers.takeFirst();
@@ -37,11 +43,19 @@ QByteArray readAll(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+bool writeFile(const QString &path, const QByteArray &text, QFile::Permissions permissions)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.setPermissions(permissions);
+}
+
+constexpr QFile::Permissions Executable = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup
+    | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+
 } // namespace
 
-// Authentication against a scheduler that wants the password of a system
-// user for changing queues. No password is right there (the test can't know
-// root's), so every answer is refused.
+// Schedulers with the access policy of a stock Debian system: administration
+// for members of the system group only.
 class TestCupsAuth : public QObject
 {
     Q_OBJECT
@@ -49,61 +63,121 @@ class TestCupsAuth : public QObject
 private slots:
     void initTestCase()
     {
+        if (getuid() != 0)
+            QSKIP("Acting as other accounts needs root.");
+        QVERIFY(m_work.isValid());
+        // The unprivileged account reaches and writes this directory.
+        QCOMPARE(::chmod(QFile::encodeName(m_work.path()).constData(), 01777), 0);
+        QVERIFY(QDir().mkpath(m_work.filePath("bin")));
+        const QString helper = QCoreApplication::applicationDirPath() + "/tst_cupsauth_commit";
+        QVERIFY(QFile::copy(helper, m_work.filePath("tst_cupsauth_commit")));
+
+        m_sandbox.setStockPolicy(QStringLiteral("nogroup"));
         QString error;
         QVERIFY2(m_sandbox.start(&error), qPrintable(error));
         m_sandbox.use();
-        CUPSPrinter printer(m_queue);
-        printer.setDeviceURI(QStringLiteral("file:/dev/null"));
-        printer.setState(IPP_PSTATE_IDLE);
-        printer.setAcceptingJobs(true);
-        QVERIFY(manager.addPrinter(printer));
         IPPRequest::setPasswordAsker(&scriptedAnswer);
-        QVERIFY2(requireAuthentication(), qPrintable(m_sandbox.errorLog()));
+        IPPLog::openAll(m_logs.path());
     }
 
     void init()
     {
-        IPPLog::openAll(m_logs.path());
         s_script = PasswordScript();
         IPPRequest::forgetPassword();
     }
 
-    void rootStartsAuthenticatedButIsAskedOnce()
+    void commitStepAsUser_data()
     {
-        Requests::GetDefaultPrinter request;
-        QCOMPARE(IPPRequest::rootAuthenticated(), getuid() == 0);
-        // Without a saved password even root is asked, and then no longer counts
-        // as authenticated until an answer confirms the password.
-        s_script.answers = QStringList{QStringLiteral("pw")};
-        QCOMPARE(IPPRequest::passwordCallback("Password?"), "pw");
-        QCOMPARE(s_script.asked, 1);
-        QVERIFY(!IPPRequest::rootAuthenticated());
+        QTest::addColumn<QString>("account"); // user:group; nogroup is the system group
+        QTest::addColumn<QByteArray>("lpadmin"); // a stand-in's commands; empty: the system's
+        QTest::addColumn<bool>("terminal"); // started in the background of a terminal
+        QTest::addColumn<QByteArray>("output");
+        const QByteArray done("created 1 OK\npaper 1\ndefault 1\n");
+        QTest::newRow("member") << "nobody:nogroup" << QByteArray() << false << done;
+        QTest::newRow("lpadmin sleeping 20 s") << "nobody:nogroup" << QByteArray("sleep 20") << false << done;
+        QTest::newRow("lpadmin reading the terminal")
+            << "nobody:nogroup" << QByteArray("read answer </dev/tty\nsleep 20") << true << done;
+        QTest::newRow("not a member") << "daemon:daemon" << QByteArray() << false
+                                      << QByteArray("password asked\npassword asked\n"
+                                                    "created 0 Authentication cancelled\n");
     }
 
-    void refusedOrCancelledPromptFailsTheRequest_data()
+    // An account in the system group adds a queue over the local socket
+    // with no password; another is asked for an administrator's. A stand-in
+    // lpadmin that never sets the paper neither holds the commit step up
+    // nor is ended with it.
+    void commitStepAsUser()
+    {
+        QFETCH(QString, account);
+        QFETCH(QByteArray, lpadmin);
+        QFETCH(bool, terminal);
+        QFETCH(QByteArray, output);
+        const QString queue = QStringLiteral("member%1").arg(QTest::currentDataTag()).remove(' ');
+        const QString record = m_work.filePath(queue + ".done");
+        QFile::remove(m_work.filePath("bin/lpadmin"));
+        if (!lpadmin.isEmpty()) {
+            QVERIFY(writeFile(m_work.filePath("bin/lpadmin"),
+                              "#!/bin/sh\n" + lpadmin + "\necho finished > '" + record.toUtf8() + "'\n", Executable));
+        }
+
+        QProcess commit;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("CUPS_SERVER", m_sandbox.socketPath());
+        env.insert("CUPS_SERVERROOT", m_work.path());
+        env.insert("HOME", m_work.path());
+        env.insert("QUEUEWIZ_LOG_DIR", m_work.path());
+        env.insert("PATH", m_work.filePath("bin") + ':' + env.value("PATH"));
+        commit.setProcessEnvironment(env);
+        commit.setWorkingDirectory(m_work.path());
+        const QStringList command{"setpriv", "--reuid=" + account.section(':', 0, 0),
+                                  "--regid=" + account.section(':', 1), "--clear-groups", "--",
+                                  m_work.filePath("tst_cupsauth_commit"), queue, "acme-laser1610.ppd", "Legal"};
+        // With job control, as "queuewiz &" typed in a terminal: reading the
+        // terminal would stop the whole process group.
+        if (terminal)
+            commit.start("script", {"-qec", "set -m; " + command.join(' ') + " & wait", "/dev/null"});
+        else
+            commit.start(command.first(), command.mid(1));
+        QVERIFY(commit.waitForFinished(60000));
+        const QByteArray printed = commit.readAll().replace('\r', "");
+        QVERIFY2(printed.contains(output), printed.constData());
+        QVERIFY(!QFile::exists(record));
+        if (!output.contains("created 1"))
+            return;
+
+        QVERIFY(PrinterCreator(manager).isPaperDefault(queue, "Legal"));
+        QCOMPARE(manager.defaultPrinterName(), queue);
+        if (!lpadmin.isEmpty())
+            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(record), 30000);
+    }
+
+    void refusedOrCancelled_data()
     {
         QTest::addColumn<QStringList>("answers"); // each refused, then cancel
-        QTest::newRow("cancelled") << QStringList();
-        QTest::newRow("two refused") << QStringList{"not-the-password", "nor-this-one"};
+        QTest::addColumn<int>("asked");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("cancelled") << QStringList() << 1 << "Authentication cancelled";
+        QTest::newRow("refused three times") << QStringList{"wrong-1", "wrong-2", "wrong-3", "wrong-4"} << 3
+                                             << QString::fromUtf8(httpStatus(HTTP_STATUS_UNAUTHORIZED));
     }
 
-    void refusedOrCancelledPromptFailsTheRequest()
+    // Over TCP the scheduler wants a password even from root; the user
+    // learns why the request failed, and no password reaches a log.
+    void refusedOrCancelled()
     {
         QFETCH(QStringList, answers);
+        QFETCH(int, asked);
+        QFETCH(QString, reason);
         s_script.answers = answers;
-        CUPSPrinter printer;
-        QVERIFY(manager.findPrinter(m_queue, printer));
-        printer.setLocation(QStringLiteral("Vault"));
+        CUPSPrinter printer(QStringLiteral("guarded"));
+        printer.setDeviceURI(QStringLiteral("file:/dev/null"));
         QVERIFY(!manager.addPrinter(printer));
-        QCOMPARE(s_script.asked, answers.size() + 1);
+        QCOMPARE(s_script.asked, asked);
+        QCOMPARE(manager.lastStatusText(), reason);
+        QCOMPARE(s_script.user, QString::fromLocal8Bit(cupsUser()));
+        QVERIFY2(s_script.prompt.contains(s_script.user), qPrintable(s_script.prompt));
         QVERIFY(!IPPRequest::hasSavedPassword());
-        QVERIFY(requestLog().endsWith("Requesting failed!\n\r\n"));
 
-        // Cancelled means forgotten: the next request asks again.
-        QVERIFY(!manager.addPrinter(printer));
-        QCOMPARE(s_script.asked, answers.size() + 2);
-        QVERIFY(manager.findPrinter(m_queue, printer));
-        QVERIFY(printer.Location().isEmpty());
         IPPLog::flushAll();
         for (const IPPLog::Kind kind : {IPPLog::Request, IPPLog::Printer, IPPLog::Driver, IPPLog::Job, IPPLog::Class}) {
             for (const QString &answer : std::as_const(answers))
@@ -111,64 +185,10 @@ private slots:
         }
     }
 
-    void savedPasswordIsOfferedOnceWithoutAsking()
-    {
-        // A typed password that an answered request confirmed ...
-        s_script.answers = QStringList{QStringLiteral("typed-earlier")};
-        QVERIFY(IPPRequest::passwordCallback("Password?"));
-        QMap<QString, CUPSPrinter> printers;
-        QVERIFY(manager.listPrinters(printers));
-        QVERIFY(IPPRequest::rootAuthenticated());
-        QCOMPARE(IPPRequest::passwordCallback("Password?"), "typed-earlier");
-        QCOMPARE(s_script.asked, 1);
-
-        // ... is offered once per request; refused, the user is asked (and
-        // cancels here) instead of libcups offering it forever.
-        QVERIFY(!manager.addPrinter(printers.value(m_queue)));
-        QCOMPARE(s_script.asked, 2);
-        QVERIFY(!IPPRequest::hasSavedPassword());
-    }
-
 private:
-    // Makes the scheduler want a password for CUPS-Add-Modify-Printer.
-    bool requireAuthentication()
-    {
-        const QString conf = m_sandbox.directory() + QStringLiteral("/etc/cupsd.conf");
-        QByteArray text = readAll(conf);
-        const QByteArray anyOperation("  <Limit All>");
-        if (!text.contains(anyOperation))
-            return false;
-        text.replace(anyOperation, "  <Limit CUPS-Add-Modify-Printer>\n    AuthType Basic\n"
-                                   "    Require user @SYSTEM\n    Order deny,allow\n  </Limit>\n"
-                                   + anyOperation);
-        QFile file(conf);
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(text) != text.size())
-            return false;
-        file.close();
-        const int pid = readAll(m_sandbox.directory() + QStringLiteral("/cupsd.pid")).trimmed().toInt();
-        if (pid <= 0 || ::kill(pid, SIGHUP) != 0)
-            return false;
-        // The scheduler reloads, then answers again, under the new policy.
-        for (int i = 0; i < 100; ++i) {
-            QTest::qWait(100);
-            Requests::AddPrinter probe;
-            probe.addURI("printer-uri", CUPSManager::printerUri(m_queue).toUtf8().constData());
-            s_script = PasswordScript();
-            if (!probe.Execute() && s_script.asked > 0)
-                return true;
-        }
-        return false;
-    }
-
-    QByteArray requestLog() const
-    {
-        IPPLog::flush(IPPLog::Request);
-        return readAll(m_logs.filePath(IPPLog::fileName(IPPLog::Request)));
-    }
-
-    CupsSandbox m_sandbox;
+    QTemporaryDir m_work{QStringLiteral("/tmp/qw-auth-XXXXXX")};
     QTemporaryDir m_logs;
-    const QString m_queue = QStringLiteral("guarded");
+    CupsSandbox m_sandbox;
 };
 
 QTEST_GUILESS_MAIN(TestCupsAuth)
