@@ -1,8 +1,8 @@
 #include "commandlineoptions.h"
 #include "testpaths.h"
+#include "testsupport.h"
 #include "uipaths.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -47,12 +47,6 @@ QString describe(const CommandLineOptions &o)
     return (keys + QStringList{ "[" + QStringList(o.arguments()).join(' ') + "]" }).join(' ');
 }
 
-bool write(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
 } // namespace
 
 class TestCommandLine : public QObject
@@ -60,28 +54,13 @@ class TestCommandLine : public QObject
     Q_OBJECT
 
 private slots:
-    void table_data()
-    {
-        QTest::addColumn<QByteArray>("compact");
-        QTest::addColumn<QString>("table");
-
-        QTest::newRow("program's own") << QByteArray(kLongOptions)
-                                       << "ui,1,0|res,1,0|ui-title,1,0|res-title,1,0|help,0,104|END";
-        QTest::newRow("optional argument") << QByteArray("a::") << "a,2,0|END";
-        QTest::newRow("colon after =c has no effect") << QByteArray("b=x:") << "b,0,120|END";
-        QTest::newRow("colon before =c") << QByteArray("c:=y") << "c,1,121|END";
-        QTest::newRow("only the first = counts") << QByteArray("d=e=f") << "d,0,101|END";
-        QTest::newRow("empty tokens") << QByteArray("|") << ",0,0|,0,0|END";
-        // Cut at 1023 characters: of "|b:" only the bar is left.
-        QTest::newRow("cut at 1023") << (QByteArray(1022, 'a') + "|b:") << QString(1022, 'a') + ",0,0|,0,0|END";
-    }
-
+    // The program's own table: no other string but the tour's empty one
+    // reaches the parser.
     void table()
     {
-        QFETCH(QByteArray, compact);
-        QFETCH(QString, table);
         std::vector<char> names;
-        QCOMPARE(describe(CommandLineOptions::longOptionTable(compact.constData(), names)), table);
+        QCOMPARE(describe(CommandLineOptions::longOptionTable(kLongOptions, names)),
+                 QStringLiteral("ui,1,0|res,1,0|ui-title,1,0|res-title,1,0|help,0,104|END"));
     }
 
     void parse_data()
@@ -137,62 +116,21 @@ private slots:
     void program_data()
     {
         QTest::addColumn<QStringList>("words");
-        QTest::addColumn<QByteArray>("form");  // written to FORM
         QTest::addColumn<bool>("configured");
+        QTest::addColumn<bool>("display");  // offscreen; else none at all
         QTest::addColumn<int>("status");
-        QTest::addColumn<QStringList>("errors");  // in this order on standard error
+        QTest::addColumn<QString>("error");  // once on standard error
 
-        const QByteArray dialog = R"(<ui version="4.0"><class>F</class><widget class="QDialog" name="F"/></ui>)";
-        QFile wizard(TestPaths::sourceDir() + "/ui/AddPrinterWizardBase.ui");
-        const QByteArray withoutChild = wizard.open(QIODevice::ReadOnly)
-            ? wizard.readAll().replace("name=\"OptionsButton\"", "name=\"Other\"") : QByteArray();
-        const QStringList ui{ "--ui=FORM" };
-
-        QTest::newRow("-h") << QStringList{ "-h" } << QByteArray() << true << 0 << QStringList{};
-        QTest::newRow("--help with arguments, no OEM.ini") << QStringList{ "--help", "a" } << QByteArray() << false
-                                                           << 0 << QStringList{};
-        QTest::newRow("--help --bogus") << QStringList{ "--help", "--bogus" } << QByteArray() << true << 255
-                                        << QStringList{ "unrecognized option '--bogus'" };
-        QTest::newRow("form without class") << ui << QByteArray("<ui version=\"4.0\"><widget name=\"x\"/></ui>")
-                                            << true << 254 << QStringList{ "can't find 'class' attribute" };
-        QTest::newRow("dialog form") << ui << dialog << true << 254
-                                     << QStringList{ "wrong className class <AddPrinterWizard> is NOT inherits <QDialog>" };
-        QTest::newRow("form without a child") << ui << withoutChild << true << 254
-                                              << QStringList{ "Invalid UI description", "setupUi failed" };
-        QTest::newRow("missing form") << ui << QByteArray() << true << 254 << QStringList{};
-    }
-
-    // In a terminal without any display: the usage still works, the wizard
-    // says what it lacks instead of letting Qt abort.
-    void withoutDisplay_data()
-    {
-        QTest::addColumn<QStringList>("words");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QString>("error");
-
-        QTest::newRow("wizard") << QStringList{} << 1 << "queuewiz: there is no display to show the wizard on";
-        QTest::newRow("--help") << QStringList{ "--help" } << 0 << "";
-        QTest::newRow("bad option, reported once") << QStringList{ "--bogus" } << 255 << "unrecognized option '--bogus'";
-    }
-
-    void withoutDisplay()
-    {
-        QFETCH(QStringList, words);
-        QFETCH(int, status);
-        QFETCH(QString, error);
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        for (const char *name : { "DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM" })
-            env.remove(QString::fromLatin1(name));
-        p.setProcessEnvironment(env);
-        p.start(TestPaths::binaryDir() + "/app/queuewiz", words);
-        QVERIFY(p.waitForFinished(30000));
-        QCOMPARE(p.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(p.exitCode(), status);
-        const QString err = QString::fromLocal8Bit(p.readAllStandardError());
-        QCOMPARE(err.count("queuewiz"), error.isEmpty() ? 0 : 1);
-        QVERIFY2(err.contains(error), qPrintable(err));
-        QCOMPARE(QString::fromLocal8Bit(p.readAllStandardOutput()).contains("USAGE:"), status != 1);
+        // Without a display the usage still works and the wizard says what
+        // it lacks instead of letting Qt abort.
+        QTest::newRow("-h, no display") << QStringList{ "-h" } << true << false << 0 << "";
+        QTest::newRow("--help with arguments, no OEM.ini") << QStringList{ "--help", "a" } << false << true << 0 << "";
+        QTest::newRow("--help --bogus, no display") << QStringList{ "--help", "--bogus" } << true << false << 255
+                                                    << "unrecognized option '--bogus'";
+        QTest::newRow("wizard, no display") << QStringList{} << true << false << 1
+                                            << "queuewiz: there is no display to show the wizard on";
+        // The loader's own messages: tst_uiloader.
+        QTest::newRow("missing form") << QStringList{ "--ui=FORM" } << true << true << 254 << "Failed to load widget from <";
     }
 
     // The program from a package tree of its own: it finds OEM.ini beside
@@ -200,39 +138,27 @@ private slots:
     void program()
     {
         QFETCH(QStringList, words);
-        QFETCH(QByteArray, form);
         QFETCH(bool, configured);
+        QFETCH(bool, display);
         QFETCH(int, status);
-        QFETCH(QStringList, errors);
+        QFETCH(QString, error);
 
         QTemporaryDir pkg;
-        QVERIFY(QDir().mkpath(pkg.filePath("bin")) && QDir().mkpath(pkg.filePath("share")));
+        QVERIFY(QDir().mkpath(pkg.filePath("bin")));
         QVERIFY(QFile::link(TestPaths::binaryDir() + "/app/queuewiz", pkg.filePath("bin/queuewiz")));
-        QVERIFY(!configured || write(pkg.filePath("share/OEM.ini"), "VENDOR=Acme\n"));
-        const QString formPath = pkg.filePath("form.ui");
-        QVERIFY(form.isEmpty() || write(formPath, form));
-        words.replaceInStrings("FORM", formPath);
-        if (status == 254)
-            errors << "Failed to load widget from <" + formPath + ">";
+        QVERIFY(!configured || TestSupport::writeFile(pkg.filePath("share/OEM.ini"), "VENDOR=Acme\n"));
+        words.replaceInStrings("FORM", pkg.filePath("form.ui"));
 
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.remove("DISPLAY");
-        p.setProcessEnvironment(env);
-        p.start(pkg.filePath("bin/queuewiz"), words);
-        QVERIFY(p.waitForFinished(30000));
-        QCOMPARE(p.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(p.exitCode(), status);
-        QCOMPARE(QString::fromLocal8Bit(p.readAllStandardOutput()),
-                 QString(configured ? "" : "WARNING: configuration file not found\n")
-                     + (status == 254 ? "" : "USAGE:\nqueuewiz --ui=<FILE> --res=<PATH>\n\t<FILE> is used as UI "
-                                             "description file\nqueuewiz -h|--help\n\tDisplay this help and exit\n"));
-        const QString err = QString::fromLocal8Bit(p.readAllStandardError());
-        qsizetype at = 0;
-        for (const QString &e : errors) {
-            at = err.indexOf(e, at);
-            QVERIFY2(at >= 0, qPrintable(e + " missing in:\n" + err));
-        }
+        QStringList unset{ "DISPLAY", "WAYLAND_DISPLAY" };
+        if (!display)
+            unset << "QT_QPA_PLATFORM";
+        const TestSupport::Run r
+            = TestSupport::run(pkg.filePath("bin/queuewiz"), words, TestSupport::environmentWithout(unset));
+        QCOMPARE(r.status, status);
+        QCOMPARE(r.out, QString(configured ? "" : "WARNING: configuration file not found\n")
+                     + (status != 0 && status != 255 ? "" : "USAGE:\nqueuewiz --ui=<FILE> --res=<PATH>\n\t<FILE> is used as UI "
+                                                          "description file\nqueuewiz -h|--help\n\tDisplay this help and exit\n"));
+        QVERIFY2(error.isEmpty() ? !r.err.contains("queuewiz") : r.err.count(error) == 1, qPrintable(r.err));
     }
 };
 

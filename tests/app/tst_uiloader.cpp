@@ -1,5 +1,6 @@
 #include "queuewizuiloader.h"
 #include "testpaths.h"
+#include "testsupport.h"
 #include "wizardpagetitle.h"
 
 #include <QLabel>
@@ -46,15 +47,11 @@ class TestUiLoader : public QObject
 
     QString write(const QString &name, const QByteArray &content)
     {
-        QFile file(m_dir.filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() ? file.fileName() : QString();
+        return TestSupport::writeFile(m_dir.filePath(name), content) ? m_dir.filePath(name) : QString();
     }
 
 private slots:
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not).*")));
-    }
+    void init() { TestSupport::failOnWarnings(); }
 
     void loadAs_data()
     {
@@ -95,9 +92,8 @@ private slots:
     // The program's wizard form without its options button.
     void missingChild()
     {
-        QFile file(sourceForm("AddPrinterWizardBase.ui"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString form = write("wizard.ui", file.readAll().replace("name=\"OptionsButton\"", "name=\"Other\""));
+        const QString form = write("wizard.ui", TestSupport::readFile(sourceForm("AddPrinterWizardBase.ui"))
+                                                    .replace("name=\"OptionsButton\"", "name=\"Other\""));
         for (const QString &w : SetupFailed)
             QTest::ignoreMessage(QtWarningMsg, qPrintable(w));
         const qsizetype widgetsBefore = QApplication::allWidgets().count();

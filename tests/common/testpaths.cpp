@@ -14,4 +14,9 @@ QString binaryDir()
     return qEnvironmentVariable("QW_BINARY_DIR", QStringLiteral(QW_DEFAULT_BINARY_DIR));
 }
 
+QString samplePpd(const QString &name)
+{
+    return sourceDir() + QStringLiteral("/share/ppd/") + name;
+}
+
 } // namespace TestPaths

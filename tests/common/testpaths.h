@@ -7,6 +7,8 @@
 namespace TestPaths {
 QString sourceDir();
 QString binaryDir();
+// A sample driver of the package (share/ppd/name); the folder for none.
+QString samplePpd(const QString &name = QString());
 }
 
 #endif

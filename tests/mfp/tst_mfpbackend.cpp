@@ -1,8 +1,8 @@
 #include "cupssandbox.h"
 #include "fakemachine.h"
 #include "testpaths.h"
+#include "testsupport.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -20,12 +20,6 @@ QString fakeBackend()
     return TestPaths::binaryDir() + QStringLiteral("/tests/mfp/mfp-fakebackend");
 }
 
-QByteArray readFile(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
 } // namespace
 
 class TestMfpBackend : public QObject
@@ -35,31 +29,22 @@ class TestMfpBackend : public QObject
     QTemporaryDir m_root;
     QTemporaryDir m_serverBin;  // with a fake backend/parallel
     FakeMachine m_machine{m_root.path()};
-    QByteArray m_stdout, m_stderr;
 
-    // Runs the mfp backend as the scheduler would; returns its exit code.
-    int runBackend(const QStringList &args, const QString &uri, const QByteArray &input, const QString &serverBin)
+    // Runs the mfp backend as the scheduler would.
+    TestSupport::Run runBackend(const QStringList &args, const QString &uri, const QByteArray &input,
+                                const QString &serverBin)
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("MFP_SYSROOT"), m_root.path());
         env.insert(QStringLiteral("CUPS_SERVERBIN"), serverBin.isNull() ? m_serverBin.path() : serverBin);
         env.insert(QStringLiteral("DEVICE_URI"), uri);
-        QProcess process;
-        process.setProcessEnvironment(env);
-        process.start(mfpBackend(), args);
-        process.write(input);
-        process.closeWriteChannel();
-        if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit)
-            return -1;
-        m_stdout = process.readAllStandardOutput();
-        m_stderr = process.readAllStandardError();
-        return process.exitCode();
+        return TestSupport::run(mfpBackend(), args, env, input);
     }
 
 private slots:
     void initTestCase()
     {
-        QVERIFY(m_root.isValid() && m_serverBin.isValid() && QFileInfo(mfpBackend()).isExecutable());
+        QVERIFY(QFileInfo(mfpBackend()).isExecutable());
         QVERIFY(QDir().mkpath(m_serverBin.filePath(QStringLiteral("backend"))));
         QVERIFY(QFile::copy(fakeBackend(), m_serverBin.filePath(QStringLiteral("backend/parallel"))));
     }
@@ -74,10 +59,10 @@ private slots:
         QByteArray payload("%!PS\n");
         for (int i = 0; i < 256; ++i)
             payload += char(i);
-        QCOMPARE(runBackend(jobArguments, QStringLiteral("mfp:/dev/mfp1"), payload, QString()), 0);
-        QCOMPARE(QString::fromUtf8(readFile(recorded + ".args")).split('\n', Qt::SkipEmptyParts),
+        QCOMPARE(runBackend(jobArguments, QStringLiteral("mfp:/dev/mfp1"), payload, QString()).status, 0);
+        QCOMPARE(QString::fromUtf8(TestSupport::readFile(recorded + ".args")).split('\n', Qt::SkipEmptyParts),
                  QStringList({"parallel:/dev/lp10", "parallel:/dev/lp10"}) + jobArguments);
-        QCOMPARE(readFile(recorded + ".data"), payload);
+        QCOMPARE(TestSupport::readFile(recorded + ".data"), payload);
     }
 
     void failures_data()
@@ -103,8 +88,9 @@ private slots:
         QFETCH(int, exitCode);
         QFETCH(QString, message);
         QVERIFY(m_machine.build(QStringLiteral("parallel")));
-        QCOMPARE(runBackend(jobArguments.mid(0, argc), uri, "data", serverBin), exitCode);
-        QVERIFY2(m_stderr.contains(message.toUtf8()), m_stderr.constData());
+        const TestSupport::Run r = runBackend(jobArguments.mid(0, argc), uri, "data", serverBin);
+        QCOMPARE(r.status, exitCode);
+        QVERIFY2(r.err.contains(message), qPrintable(r.err));
     }
 
     // The scheduler lists the devices through the backend, prints through it,
@@ -143,15 +129,14 @@ private slots:
 
         QVERIFY(m_machine.build(QStringLiteral("usb without id")));
         QCOMPARE(CupsSandbox::run({"lpadmin", "-p", "mfpqueue", "-E", "-v", "mfp:/dev/mfp0"}, &output), 0);
-        QFile job(m_root.filePath(QStringLiteral("job.txt")));
-        QVERIFY(job.open(QIODevice::WriteOnly) && job.write("page one\f") > 0);
-        job.close();
-        const QStringList lp{"lp", "-d", "mfpqueue", job.fileName()};
+        const QString job = m_root.filePath(QStringLiteral("job.txt"));
+        QVERIFY(TestSupport::writeFile(job, "page one\f"));
+        const QStringList lp{"lp", "-d", "mfpqueue", job};
         const QString recorded = sandbox.backendDir() + QStringLiteral("/usb");
         QCOMPARE(CupsSandbox::run(lp, &output), 0);
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(recorded + ".data"), 30000);
-        QCOMPARE(readFile(recorded + ".data"), QByteArray("page one\f"));
-        QVERIFY(readFile(recorded + ".args").startsWith("usb://Acme/ColorLaser%202550?serial=CL2550X\n"
+        QCOMPARE(TestSupport::readFile(recorded + ".data"), QByteArray("page one\f"));
+        QVERIFY(TestSupport::readFile(recorded + ".args").startsWith("usb://Acme/ColorLaser%202550?serial=CL2550X\n"
                                                         "usb://Acme/ColorLaser%202550?serial=CL2550X\n"));
 
         // Unplugged: the job waits and the log says why.
@@ -169,7 +154,7 @@ private slots:
         // Plugged in again: the scheduler's retry prints it.
         QVERIFY(m_machine.build(QStringLiteral("usb without id")));
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(recorded + ".data"), 60000);
-        QCOMPARE(readFile(recorded + ".data"), QByteArray("page one\f"));
+        QCOMPARE(TestSupport::readFile(recorded + ".data"), QByteArray("page one\f"));
     }
 };
 

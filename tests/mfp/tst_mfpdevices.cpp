@@ -1,5 +1,6 @@
 #include "fakemachine.h"
 #include "mfp.h"
+#include "testsupport.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -31,11 +32,7 @@ class TestMfpDevices : public QObject
     FakeMachine m_machine{m_root.path()};
 
 private slots:
-    void initTestCase()
-    {
-        QVERIFY(m_root.isValid());
-        qputenv("MFP_SYSROOT", QFile::encodeName(m_root.path()));
-    }
+    void initTestCase() { qputenv("MFP_SYSROOT", QFile::encodeName(m_root.path())); }
 
     void records_data()
     {
@@ -115,6 +112,45 @@ private slots:
         mfp_device device;
         QCOMPARE(mfp_get_devices(&device, 1), 1);
         QCOMPARE(describe(device).section(QLatin1Char('|'), field, field), expected);
+    }
+
+    // OEM.ini's values as the device library reads them; a null value:
+    // the key is not found.
+    void lookUp_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("size");
+        QTest::addColumn<QByteArray>("value");
+        auto row = [](const char *name, const QByteArray &content, const QByteArray &value, int size = 600) {
+            QTest::newRow(name) << content << size << value;
+        };
+        row("anywhere in the line, rest of it", "VENDOR=Acme\n# set SNMP_COMMUNITY=our lan \n", "our lan ");
+        row("last occurrence wins", "SNMP_COMMUNITY=public\nURL=x\nSNMP_COMMUNITY=private\n", "private");
+        row("longer name is another key", "SNMP_COMMUNITY_V3=x\n", QByteArray());
+        row("CRLF, no final line end", "URL=a\r\nSNMP_COMMUNITY=lan\r", "lan");
+        row("empty value is found", "SNMP_COMMUNITY=\n", "");
+        row("value cut to the buffer", "SNMP_COMMUNITY=community\n", "communi", 8);
+        row("value cut at the line length", "SNMP_COMMUNITY=" + QByteArray(1000, 'v') + "\nURL=u\n",
+            QByteArray(511 - 15, 'v'));
+        row("key past 511 characters is not read", QByteArray(600, 'x') + "SNMP_COMMUNITY=tail\n", QByteArray());
+        row("line after an overlong one", QByteArray(2000, 'x') + "\nSNMP_COMMUNITY=next\n", "next");
+        row("line of exactly 511 characters", QByteArray(511 - 19, 'x') + "SNMP_COMMUNITY=abcd\nURL=u\n", "abcd");
+    }
+
+    void lookUp()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(int, size);
+        QFETCH(QByteArray, value);
+
+        const QString file = m_root.filePath(QStringLiteral("OEM.ini"));
+        QVERIFY(TestSupport::writeFile(file, content));
+        char buffer[610];
+        memset(buffer, 'z', sizeof buffer);
+        const QByteArray path = QFile::encodeName(file);
+        QCOMPARE(textfile_process(path.constData(), "SNMP_COMMUNITY", buffer, size_t(size)), value.isNull() ? 0 : 1);
+        QCOMPARE(QByteArray(buffer), value);
+        QCOMPARE(QByteArray(buffer + size, 10), QByteArray(10, 'z'));
     }
 };
 

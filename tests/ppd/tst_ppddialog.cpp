@@ -4,6 +4,8 @@
 #include "ppdoptionview.h"
 #include "ppdtreebaseitem.h"
 #include "ppdtreeview.h"
+#include "testqueue.h"
+#include "testsupport.h"
 
 #include <cups/cups.h>
 
@@ -85,9 +87,7 @@ class TestPPDDialog : public QObject
 private slots:
     void initTestCase()
     {
-        QString error;
-        QVERIFY2(CupsSandbox::useShared(&error), qPrintable(error));
-        QVERIFY(m_temp.isValid());
+        QW_USE_SHARED_SCHEDULER();
         // libcups puts its temporary files here: the tests count them.
         qputenv("TMPDIR", QFile::encodeName(m_temp.path()));
         MimeSourceFactory_ppdwidgets::registerFactory();
@@ -108,16 +108,15 @@ private slots:
 
     void cleanup()
     {
-        for (const QString &queue : std::as_const(m_queues))
-            CupsSandbox::run({QStringLiteral("lpadmin"), QStringLiteral("-x"), queue});
-        m_queues.clear();
         m_boxes.clear();
         QCOMPARE(temporaryFiles(), QStringList());
     }
 
     void okStoresTheChoices()
     {
-        const QString queue = addQueue(QStringLiteral("save"), QStringLiteral("acme-laser1610.ppd"));
+        const TestQueue made = addQueue("save", "acme-laser1610.ppd");
+        QVERIFY2(made.isMade(), qPrintable(made.error()));
+        const QString &queue = made.name();
         QCOMPARE(serverDefaults(queue, {"PageSize", "Duplex"}),
                  QStringList({"*DefaultPageSize: Letter", "*DefaultDuplex: None"}));
         Dialog d(queue);
@@ -138,7 +137,9 @@ private slots:
 
     void conflictBlocksOkUntilResolved()
     {
-        const QString queue = addQueue(QStringLiteral("conflict"), QStringLiteral("acme-colorlaser2550.ppd"));
+        const TestQueue made = addQueue("conflict", "acme-colorlaser2550.ppd");
+        QVERIFY2(made.isMade(), qPrintable(made.error()));
+        const QString &queue = made.name();
         Dialog d(queue);
         QVERIFY(d.pick("Duplex", QStringLiteral("Long Edge Binding")));
         QVERIFY(d.pick("MediaType", QStringLiteral("Transparency")));
@@ -169,7 +170,9 @@ private slots:
 
     void vanishedPrinter()
     {
-        const QString queue = addQueue(QStringLiteral("gone"), QStringLiteral("acme-laser1610.ppd"));
+        const TestQueue made = addQueue("gone", "acme-laser1610.ppd");
+        QVERIFY2(made.isMade(), qPrintable(made.error()));
+        const QString &queue = made.name();
         Dialog d(queue);
         QVERIFY(d.pick("Duplex", QStringLiteral("Short Edge Binding")));
         QCOMPARE(CupsSandbox::run({QStringLiteral("lpadmin"), QStringLiteral("-x"), queue}), 0);
@@ -188,17 +191,10 @@ private slots:
     }
 
 private:
-    QString addQueue(const QString &tag, const QString &ppd)
+    static TestQueue addQueue(const char *tag, const char *ppd)
     {
-        const QString queue = QStringLiteral("ppddlg_%1_%2").arg(QCoreApplication::applicationPid()).arg(tag);
-        QString output;
-        if (CupsSandbox::run({QStringLiteral("lpadmin"), QStringLiteral("-p"), queue, QStringLiteral("-E"),
-                              QStringLiteral("-v"), QStringLiteral("socket://127.0.0.1:9"), QStringLiteral("-m"), ppd},
-                             &output)
-            != 0)
-            qWarning("lpadmin failed: %s", qPrintable(output));
-        m_queues << queue;
-        return queue;
+        return TestQueue(QStringLiteral("ppddlg_%1_%2").arg(QCoreApplication::applicationPid()).arg(QLatin1String(tag)),
+                         QStringLiteral("socket://127.0.0.1:9"), QLatin1String(ppd));
     }
 
     QStringList temporaryFiles() const
@@ -207,7 +203,6 @@ private:
     }
 
     QTemporaryDir m_temp;
-    QStringList m_queues;
     QTimer m_answerer;
     QStringList m_boxes;
 };

@@ -9,16 +9,11 @@
 
 namespace {
 
-QString samplePath(const QString &name)
-{
-    return TestPaths::sourceDir() + QStringLiteral("/share/ppd/") + name;
-}
-
 // A sample PPD with its defaults marked, then the marks "Option=Choice ...";
 // null when a mark does not fit it.
 PpdFilePtr openSample(const QString &name, const QByteArray &marks)
 {
-    PpdFilePtr ppd(ppdOpenFile(QFile::encodeName(samplePath(name)).constData()));
+    PpdFilePtr ppd(ppdOpenFile(QFile::encodeName(TestPaths::samplePpd(name)).constData()));
     if (ppd)
         ppdMarkDefaults(ppd.get());
     for (const QByteArray &mark : marks.split(' ')) {
@@ -102,7 +97,7 @@ private slots:
     {
         const QString name = QStringLiteral("acme-colorlaser2550.ppd");
         PpdFilePtr ppd = openSample(name, "PageSize=Letter TonerSave=True");
-        QFile file(samplePath(name));
+        QFile file(TestPaths::samplePpd(name));
         QVERIFY(ppd && file.open(QIODevice::ReadOnly));
         QByteArray expected = file.readAll();
         const QByteArray written = rewritten(ppd.get(), expected);

@@ -1,9 +1,10 @@
 #include "cupssandbox.h"
 #include "loopbackprinter.h"
 #include "testpaths.h"
+#include "testqueue.h"
 #include "testsheet.h"
+#include "testsupport.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -11,30 +12,13 @@ class TestPrinterTest : public QObject
 {
     Q_OBJECT
 
-private:
-    struct Result
+    static TestSupport::Run printertest(const QStringList &args)
     {
-        int status;
-        QString out;
-        QString err;
-    };
-
-    Result printertest(const QStringList &args)
-    {
-        QProcess p;
-        p.start(TestPaths::binaryDir() + "/tools/printertest/printertest", args);
-        if (!p.waitForFinished(60000))
-            return { -1, {}, "did not end" };
-        return { p.exitCode(), QString::fromLocal8Bit(p.readAllStandardOutput()),
-                 QString::fromLocal8Bit(p.readAllStandardError()) };
+        return TestSupport::run(TestPaths::binaryDir() + "/tools/printertest/printertest", args);
     }
 
 private slots:
-    void initTestCase()
-    {
-        QString why;
-        QVERIFY2(CupsSandbox::useShared(&why), qPrintable(why));
-    }
+    void initTestCase() { QW_USE_SHARED_SCHEDULER(); }
 
     void pageSize_data()
     {
@@ -45,7 +29,6 @@ private slots:
         QTest::newRow("legal") << "na_legal_8.5x14in" << int(QPageSize::Legal);
         QTest::newRow("PPD name") << "Letter" << int(QPageSize::Letter);
         QTest::newRow("unknown keeps the fallback") << "om_small-photo_100x150mm" << int(QPageSize::B5);
-        QTest::newRow("none") << "" << int(QPageSize::B5);
     }
 
     void pageSize()
@@ -64,9 +47,7 @@ private slots:
         sheet.pageSize = QPageSize(QPageSize::Letter);
         const QString pdf = dir.filePath("t.pdf");
         QVERIFY(sheet.writePdf(pdf));
-        QFile f(pdf);
-        QVERIFY(f.open(QIODevice::ReadOnly));
-        const QByteArray data = f.readAll();
+        const QByteArray data = TestSupport::readFile(pdf);
         QVERIFY(data.startsWith("%PDF-"));
         QCOMPARE(data.count("/Type /Page\n") + data.count("/Type /Page\r") + data.count("/Type /Page "), 1);
         // Letter is 612 x 792 points.
@@ -78,18 +59,15 @@ private slots:
     void printsToQueue()
     {
         LoopbackPrinter printer;
-        const QString queue = "printertest_ok";
-        QCOMPARE(CupsSandbox::run({ "lpadmin", "-p", queue, "-E", "-v", printer.deviceUri(), "-m",
-                                    "acme-laser1610.ppd" }),
-                 0);
-        const Result r = printertest({ queue });
+        const TestQueue queue("printertest_ok", printer.deviceUri(), "acme-laser1610.ppd");
+        QVERIFY2(queue.isMade(), qPrintable(queue.error()));
+        const TestSupport::Run r = printertest({ queue.name() });
         QCOMPARE(r.status, 1);
         QVERIFY2(QRegularExpression("^printertest: job \\d+ sent to printertest_ok\n$").match(r.out).hasMatch(),
                  qPrintable(r.out));
         const QByteArray job = printer.waitForJob(60000);
         QVERIFY(!job.isNull());
         QVERIFY(job.startsWith("%!PS"));
-        CupsSandbox::run({ "lpadmin", "-x", queue });
     }
 
     void failures_data()
@@ -98,27 +76,25 @@ private slots:
         QTest::addColumn<QString>("message");
         QTest::newRow("unknown queue") << QStringList{ "no_such_queue" } << "there is no printer 'no_such_queue'";
         QTest::newRow("no argument") << QStringList{} << "usage: printertest QUEUE";
-        QTest::newRow("two arguments") << QStringList{ "a", "b" } << "usage: printertest QUEUE";
     }
 
     void failures()
     {
         QFETCH(QStringList, args);
         QFETCH(QString, message);
-        const Result r = printertest(args);
+        const TestSupport::Run r = printertest(args);
         QCOMPARE(r.status, 0);
         QVERIFY2(r.err.contains(message), qPrintable(r.err));
     }
 
     void queueRejectingJobs()
     {
-        const QString queue = "printertest_rejecting";
-        QCOMPARE(CupsSandbox::run({ "lpadmin", "-p", queue, "-v", "socket://127.0.0.1:9", "-m", "acme-laser1610.ppd" }), 0);
-        QCOMPARE(CupsSandbox::run({ "cupsreject", queue }), 0);
-        const Result r = printertest({ queue });
+        const TestQueue queue("printertest_rejecting", "socket://127.0.0.1:9", "acme-laser1610.ppd", false);
+        QVERIFY2(queue.isMade(), qPrintable(queue.error()));
+        QCOMPARE(CupsSandbox::run({ "cupsreject", queue.name() }), 0);
+        const TestSupport::Run r = printertest({ queue.name() });
         QCOMPARE(r.status, 0);
         QVERIFY2(r.err.contains("did not take the test page"), qPrintable(r.err));
-        CupsSandbox::run({ "lpadmin", "-x", queue });
     }
 };
 

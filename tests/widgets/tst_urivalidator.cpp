@@ -48,7 +48,6 @@ private slots:
         row("smb v6, rebuilt", 4, v6, "u:p@WG/fe80::1/share", ok, "smb://u:p@WG/[fe80::1]/share");
         row("file absolute", 5, v4, "/dev/null", ok, "file:/dev/null");
         row("file relative", 5, v4, "file:tmp/x", bad, "file:tmp/x");
-        row("no scheme", 0, v6, "ipp://host", bad, "ipp://host");
         row("scheme out of range", 9, v4, "x", bad, "x");
         // The repair may shorten the text; the cursor follows it.
         row("slashes before an IPv6 queue", 3, v6, "//////::/6", ok, "lpd://[::]/6");

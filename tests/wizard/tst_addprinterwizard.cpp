@@ -2,6 +2,7 @@
 #include "cupssandbox.h"
 #include "fakemachine.h"
 #include "printerportlistview.h"
+#include "testsupport.h"
 #include "urlpushbutton.h"
 #include "wizardfixture.h"
 
@@ -18,35 +19,19 @@ class TestAddPrinterWizard : public QObject
 {
     Q_OBJECT
 
-    // From the welcome page to the driver page with /dev/lp0 as the port.
-    static bool toDriverPage(const WizardFixture &f)
-    {
-        return f.toPortsPage() && WizardFixture::clickItem(f.child<PrinterPortListView>("PortsView"), "/dev/lp0")
-            && f.click(QWizard::NextButton) && f.wizard()->currentId() == W::DriverPage;
-    }
-
 private slots:
-    void initTestCase()
-    {
-        QString error;
-        QVERIFY2(CupsSandbox::useShared(&error), qPrintable(error));
-    }
-
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not).*")));
-    }
+    void initTestCase() { QW_USE_SHARED_SCHEDULER(); }
+    void init() { TestSupport::failOnWarnings(); }
 
     void portType_data()
     {
         QTest::addColumn<QString>("machine");
         QTest::addColumn<QString>("radio");
         QTest::addColumn<bool>("localUsable");
-        QTest::addColumn<int>("pageAfterNext");  // -1: Next is off
 
-        QTest::newRow("no local device") << "empty" << "" << false << -1;
-        QTest::newRow("network, nothing found") << "usb with id" << "NetworkButton" << true << -1;
-        QTest::newRow("by hand") << "empty" << "OfflineButton" << false << int(W::PortsPage);
+        // Typing the port by hand: WizardFixture::toPortsPage.
+        QTest::newRow("no local device") << "empty" << "" << false;
+        QTest::newRow("network, nothing found") << "usb with id" << "NetworkButton" << true;
     }
 
     // The wizard starts on the welcome page with the local port type.
@@ -55,22 +40,19 @@ private slots:
         QFETCH(QString, machine);
         QFETCH(QString, radio);
         QFETCH(bool, localUsable);
-        QFETCH(int, pageAfterNext);
 
         WizardFixture f(machine);
         QVERIFY(f.load());
         QCOMPARE(f.wizard()->currentId(), int(W::WelcomePage));
-        QVERIFY(!f.button(QWizard::BackButton)->isVisible());
         QVERIFY(f.child<QRadioButton>("ConnectedButton")->isChecked());
         QCOMPARE(f.wizard()->portTypeId(), int(W::PortType_Connected));
         QVERIFY(f.click(QWizard::NextButton));
         if (!radio.isEmpty())
             f.clickRadio(qPrintable(radio));
         QCOMPARE(f.child<QRadioButton>("ConnectedButton")->isEnabled(), localUsable);
-        QCOMPARE(f.child<QComboBox>("ConnectedList")->isEnabled(), localUsable && radio.isEmpty());
+        QVERIFY(!f.child<QComboBox>("ConnectedList")->isEnabled());
         QVERIFY(!f.child<QComboBox>("NetworkList")->isEnabled());
-        QCOMPARE(f.nextEnabled(), pageAfterNext >= 0);
-        QVERIFY(pageAfterNext < 0 || (f.click(QWizard::NextButton) && f.wizard()->currentId() == pageAfterNext));
+        QVERIFY(!f.nextEnabled());
     }
 
     void portsPage_data()
@@ -120,7 +102,7 @@ private slots:
     {
         WizardFixture f;
         QVERIFY(f.load());
-        QVERIFY(toDriverPage(f));
+        QVERIFY(f.toDriverPage("/dev/lp0"));
         QVERIFY(!f.nextEnabled());
         // Only the vendor's drivers; a model in two languages is told apart
         // by its language.
@@ -154,8 +136,7 @@ private slots:
         QTest::addColumn<QString>("typed");
         QTest::addColumn<QString>("name");
 
-        QTest::newRow("blank refused") << "my printer" << "myprinter";
-        QTest::newRow("punctuation refused") << "a.b-c!/" << "abc";
+        QTest::newRow("blanks and punctuation refused") << "my a.b-c!/" << "myabc";
         QTest::newRow("digits and underscore") << "lab_2" << "lab_2";
         QTest::newRow("letters of any script") << QString::fromUtf8("Büro") << QString::fromUtf8("Büro");
         QTest::newRow("only blanks") << "   " << "";
@@ -168,7 +149,7 @@ private slots:
 
         WizardFixture f;
         QVERIFY(f.load());
-        QVERIFY(toDriverPage(f) && f.toNamePage("Acme ColorLaser 2550"));
+        QVERIFY(f.toDriverPage("/dev/lp0") && f.toNamePage("Acme ColorLaser 2550"));
         auto *edit = f.child<QLineEdit>("NameEdit");
         edit->clear();
         // Key events carrying any character, not only those of a US keyboard.
@@ -197,7 +178,7 @@ private slots:
 
         WizardFixture f;
         QVERIFY(f.load());
-        QVERIFY(toDriverPage(f) && f.toNamePage("Acme ColorLaser 2550"));
+        QVERIFY(f.toDriverPage("/dev/lp0") && f.toNamePage("Acme ColorLaser 2550"));
         QLineEdit *location = f.child<QLineEdit>("LocationEdit");
         QTest::keyClicks(location, "Room 7");
         if (page == W::FinishPage) {

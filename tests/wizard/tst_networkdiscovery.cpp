@@ -2,6 +2,7 @@
 #include "cupsmanager.h"
 #include "cupssandbox.h"
 #include "printerportlistview.h"
+#include "testsupport.h"
 #include "wizardfixture.h"
 
 #include <QComboBox>
@@ -25,16 +26,10 @@ QByteArray record(const char *address, const char *slp, const QByteArray &descri
     return QByteArray("ip: ") + address + " slp: " + slp + " snmp: 1,0,1 dsc: \"" + description + "\"\n";
 }
 
-bool writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
 QByteArray arguments(const WizardFixture &f)
 {
-    QFile file(f.rootDir() + QStringLiteral("/bin/args"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+    const QString args = f.rootDir() + QStringLiteral("/bin/args");
+    return QFile::exists(args) ? TestSupport::readFile(args) : QByteArray("none");
 }
 
 } // namespace
@@ -49,7 +44,8 @@ class TestNetworkDiscovery : public QObject
     static bool search(WizardFixture &f, const QByteArray &output)
     {
         if ((!output.isNull() && !f.addScript(QStringLiteral("bin/netdiscovery"), FakeDiscovery))
-            || !writeFile(f.rootDir() + QStringLiteral("/output"), output) || !f.load() || !f.click(QWizard::NextButton))
+            || !TestSupport::writeFile(f.rootDir() + QStringLiteral("/output"), output) || !f.load()
+            || !f.click(QWizard::NextButton))
             return false;
         f.clickRadio("NetworkButton");
         QTest::mouseClick(f.child<QPushButton>("SearchNetworkButton"), Qt::LeftButton);
@@ -64,20 +60,12 @@ class TestNetworkDiscovery : public QObject
 private slots:
     void initTestCase()
     {
-        QString error;
-        QVERIFY2(CupsSandbox::useShared(&error), qPrintable(error));
+        QW_USE_SHARED_SCHEDULER();
         m_cupsVersion = CUPSManager::m_CUPSManagerInstance.CupsVersion;
     }
 
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not).*")));
-    }
-
-    void cleanup()
-    {
-        CUPSManager::m_CUPSManagerInstance.CupsVersion = m_cupsVersion;
-    }
+    void init() { TestSupport::failOnWarnings(); }
+    void cleanup() { CUPSManager::m_CUPSManagerInstance.CupsVersion = m_cupsVersion; }
 
     void results_data()
     {
@@ -138,7 +126,7 @@ private slots:
     void choosingAndSearchingAgain()
     {
         WizardFixture f;
-        QVERIFY(writeFile(f.shareDir() + "/OEM.ini", "VENDOR=Acme\nSNMP_COMMUNITY=it's $HOME; `id`\n"));
+        QVERIFY(TestSupport::writeFile(f.shareDir() + "/OEM.ini", "VENDOR=Acme\nSNMP_COMMUNITY=it's $HOME; `id`\n"));
         QVERIFY(search(f, record("10.0.0.1", "1,1,0,0", "Acme MFP 4200") + record("10.0.0.2", "1,1,0,0")));
         auto *list = f.child<QComboBox>("NetworkList");
         auto *ports = f.child<PrinterPortListView>("PortsView");
@@ -149,7 +137,7 @@ private slots:
         QVERIFY(f.nextEnabled());
         QCOMPARE(arguments(f), QByteArray("[-c][it's $HOME; `id`]"));
 
-        QVERIFY(writeFile(f.rootDir() + "/output", record("10.0.0.3", "1,0,0,0")));
+        QVERIFY(TestSupport::writeFile(f.rootDir() + "/output", record("10.0.0.3", "1,0,0,0")));
         QTest::mouseClick(f.child<QPushButton>("SearchNetworkButton"), Qt::LeftButton);
         QCOMPARE(entries(f), QStringList{ "10.0.0.3 ()  Office" });
         QCOMPARE(ports->selectedURI(), QString());

@@ -2,6 +2,7 @@
 #include "drivermatcher.h"
 #include "localdevicelist.h"
 #include "pixmapmanager.h"
+#include "testsupport.h"
 
 #include <QImage>
 #include <QTemporaryDir>
@@ -39,7 +40,6 @@ private slots:
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("driver");
 
-        QTest::newRow("model with Series left out") << "Laser 1610" << "Acme" << "C" << "Acme Laser 1610 Series (en)";
         QTest::newRow("user's language first") << "Laser 1610" << "Acme" << "de_DE" << "Acme Laser 1610 Series (de)";
         QTest::newRow("maker named in the model") << "ACME Laser 1610" << "ACME Corp." << "C"
                                                   << "Acme Laser 1610 Series (en)";
@@ -91,7 +91,6 @@ private slots:
         QTest::newRow("first word with a digit") << "Laser 1610 Series" << "1610";
         QTest::newRow("no digit") << "Acme Deskjet" << "acme";
         QTest::newRow("punctuation dropped") << "HP LaserJet 4-Plus" << "4plus";
-        QTest::newRow("language suffix") << "Acme Laser 1610 Series (en)" << "1610";
         QTest::newRow("leading blanks") << "   Globex  PageWriter" << "globex";
         QTest::newRow("nothing usable") << "(+)" << "";
     }
@@ -126,11 +125,9 @@ private slots:
         QImage laser(40, 30, QImage::Format_ARGB32);
         laser.fill(Qt::darkCyan);
         QVERIFY(laser.save(share.filePath("laser.png")));
-        QFile ini(share.filePath("pictures.ini"));
-        QVERIFY(ini.open(QIODevice::WriteOnly));
-        ini.write("[Pictures]\n# model = picture\nLaser 1610 = laser.png\nMFP=mfp.png\nMFP 4200 Series=mfp-series.png\n"
-                  "Scan 9=scanner\n=nothing.png\nbroken line\n");
-        ini.close();
+        QVERIFY(TestSupport::writeFile(share.filePath("pictures.ini"),
+                                       "[Pictures]\n# model = picture\nLaser 1610 = laser.png\nMFP=mfp.png\n"
+                                       "MFP 4200 Series=mfp-series.png\nScan 9=scanner\n=nothing.png\nbroken line\n"));
         PixmapManager pixmaps(share.path());
         QCOMPARE(pixmaps.pictureName(model), picture.isEmpty() || picture == "scanner" ? picture : share.filePath(picture));
         const QImage wanted = picture == "laser.png" ? laser

@@ -5,14 +5,13 @@
 #include "printerportlistview.h"
 #include "queuewizuiloader.h"
 #include "testpaths.h"
+#include "testsupport.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QRadioButton>
-#include <QTimer>
 #include <QtTest>
 
 namespace {
@@ -59,11 +58,7 @@ bool WizardFixture::load(const QByteArray &form)
 
 bool WizardFixture::addScript(const QString &path, const QByteArray &script) const
 {
-    QFile file(m_root.filePath(path));
-    if (!QDir().mkpath(QFileInfo(file).path()) || !file.open(QIODevice::WriteOnly) || file.write(script) != script.size())
-        return false;
-    file.close();
-    return file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return TestSupport::writeFile(m_root.filePath(path), script, true);
 }
 
 bool WizardFixture::nextEnabled() const
@@ -123,6 +118,25 @@ QLineEdit *WizardFixture::renamePort(const QString &text) const
     return ports->findChild<QLineEdit *>();
 }
 
+bool WizardFixture::typePort(const QString &uri) const
+{
+    const QString scheme = uri.section(QLatin1Char('/'), 0, 0) + QStringLiteral("//");
+    QLineEdit *editor = renamePort(scheme);
+    if (!editor)
+        return false;
+    QTest::keyClicks(editor, uri.mid(scheme.size()));
+    QTest::keyClick(editor, Qt::Key_Return);
+    // The editor hands its text over from the event loop.
+    auto *ports = child<PrinterPortListView>("PortsView");
+    return QTest::qWaitFor([&] { return ports->selectedURI() == uri; });
+}
+
+bool WizardFixture::toDriverPage(const QString &port) const
+{
+    return toPortsPage() && clickItem(child<PrinterPortListView>("PortsView"), port) && click(QWizard::NextButton)
+        && m_wizard->currentId() == AddPrinterWizard::DriverPage;
+}
+
 bool WizardFixture::toNamePage(const QString &driver) const
 {
     return m_wizard->currentId() == AddPrinterWizard::DriverPage && clickItem(child<QListWidget>("DriversList"), driver)
@@ -140,23 +154,5 @@ QByteArray WizardFixture::programForm(const QByteArray &from, const QByteArray &
 
 void WizardFixture::answerMessageBox(const QString &answer, QString *seen, int timeoutMs)
 {
-    auto *timer = new QTimer;
-    auto deadline = std::make_shared<QDeadlineTimer>(timeoutMs);
-    QObject::connect(timer, &QTimer::timeout, [timer, deadline, answer, seen] {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        if (box || deadline->hasExpired()) {
-            timer->stop();
-            timer->deleteLater();
-        }
-        if (!box)
-            return;
-        if (seen)
-            *seen = box->windowTitle() + QStringLiteral("|") + box->text();
-        for (QAbstractButton *b : box->buttons()) {
-            if (b->text() == answer)
-                return QTest::mouseClick(b, Qt::LeftButton);
-        }
-        box->reject();
-    });
-    timer->start(20);
+    TestSupport::answerMessageBox(answer, seen, timeoutMs);
 }

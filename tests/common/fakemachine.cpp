@@ -1,8 +1,8 @@
 #include "fakemachine.h"
 
+#include "testsupport.h"
+
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 namespace {
 const QString usbDir = QStringLiteral("/sys/bus/usb/devices/");
@@ -26,10 +26,7 @@ void FakeMachine::clear()
 
 void FakeMachine::write(const QString &path, const QByteArray &content)
 {
-    QDir().mkpath(QFileInfo(m_root + path).path());
-    QFile f(m_root + path);
-    if (f.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        f.write(content);
+    TestSupport::writeFile(m_root + path, content);
 }
 
 void FakeMachine::addUsbDevice(const QString &device, const QString &manufacturer, const QString &product,

@@ -54,6 +54,12 @@ public:
     bool toPortsPage() const;
     // Opens the in-place editor of the port entry showing text.
     QLineEdit *renamePort(const QString &text) const;
+    // On the ports page: types uri ("socket://host:port") into the entry of
+    // its scheme, which then is the port.
+    bool typePort(const QString &uri) const;
+    // From the welcome page to the driver page with the local port shown
+    // as port ("/dev/lp0").
+    bool toDriverPage(const QString &port) const;
     // From the driver page with driver chosen to the name page.
     bool toNamePage(const QString &driver) const;
 

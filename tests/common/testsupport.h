@@ -1,0 +1,53 @@
+#ifndef QUEUEWIZ_TESTSUPPORT_H
+#define QUEUEWIZ_TESTSUPPORT_H
+
+#include <QByteArray>
+#include <QProcessEnvironment>
+#include <QString>
+#include <QStringList>
+
+// What every test program needs besides the scheduler: files, child
+// programs, warnings.
+
+// First thing in initTestCase(): the scheduler of the CTest fixture "cups";
+// no test runs when it is not there.
+#define QW_USE_SHARED_SCHEDULER()                                      \
+    do {                                                               \
+        QString sharedSchedulerError;                                  \
+        QVERIFY2(CupsSandbox::useShared(&sharedSchedulerError),        \
+                 qPrintable(sharedSchedulerError));                    \
+    } while (false)
+
+namespace TestSupport {
+
+// Writes content to path, making its directory; executable for the owner
+// when asked. False when any step fails.
+bool writeFile(const QString &path, const QByteArray &content, bool executable = false);
+// The whole file; empty when it cannot be read.
+QByteArray readFile(const QString &path);
+
+struct Run
+{
+    int status = -1;  // -1: did not start, crashed or hung
+    QString out;
+    QString err;
+};
+// Runs program to its end (60 s at most) in env, input on its standard input.
+Run run(const QString &program, const QStringList &args,
+        const QProcessEnvironment &env = QProcessEnvironment::systemEnvironment(),
+        const QByteArray &input = QByteArray());
+// This process's environment less the variables named.
+QProcessEnvironment environmentWithout(const QStringList &names);
+
+// Answers the next message box that opens within timeoutMs by clicking
+// the button with the text answer (else closes it); "title|text" lands in
+// *seen.
+void answerMessageBox(const QString &answer, QString *seen, int timeoutMs = 5000);
+
+// Any warning fails the running test, but for the offscreen platform's
+// notes about what it cannot do.
+void failOnWarnings();
+
+} // namespace TestSupport
+
+#endif
