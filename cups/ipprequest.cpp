@@ -11,10 +11,13 @@
 
 namespace {
 
-// Bounds for a scheduler that does not answer; listing a large driver
-// catalogue can legitimately take a while.
-constexpr int ConnectTimeoutMs = 10000;
-constexpr double AnswerTimeoutSeconds = 120.0;
+// Bounds for a scheduler that does not answer. Every request blocks the
+// window, so they are sized to what a healthy local scheduler needs: it
+// accepts at once and answers within a few seconds even when it lists a
+// large driver catalogue for the first time. A stopped scheduler thus costs
+// one answer timeout per request, and callers stop at the first of those.
+constexpr int ConnectTimeoutMs = 3000;
+constexpr double AnswerTimeoutSeconds = 10.0;
 
 QString s_savedPassword;
 QByteArray s_passwordBytes; // what libcups reads; kept alive here
@@ -33,11 +36,6 @@ QString serverName()
     if (server.startsWith(QLatin1Char('/')))
         return server;
     return server + QLatin1Char(':') + QString::number(ippPort());
-}
-
-QString notAnswering()
-{
-    return QCoreApplication::translate("IPPRequest", "The printing service at %1 does not answer").arg(serverName());
 }
 
 void wipe(QByteArray &bytes)
@@ -154,13 +152,11 @@ bool IPPRequest::Execute(const char *resource)
         return false;
 
     s_savedOffered = false;
-    m_connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                                    ConnectTimeoutMs, nullptr));
+    m_connection = connectToScheduler();
     if (!m_connection) {
-        setLastError(notAnswering());
+        setLastError(noAnswerText());
         return false;
     }
-    httpSetTimeout(m_connection.get(), AnswerTimeoutSeconds, nullptr, nullptr);
 
     IPPLog::line(IPPLog::Request, "Requesting operation 0x%x...", static_cast<unsigned>(m_operation));
     const QByteArray file = QFile::encodeName(m_fileName);
@@ -171,7 +167,7 @@ bool IPPRequest::Execute(const char *resource)
         IPPLog::line(IPPLog::Request, "Requesting failed!\n");
         IPPLog::flush(IPPLog::Request);
         const QString reason = QString::fromUtf8(cupsLastErrorString());
-        setLastError(reason.isEmpty() ? notAnswering() : reason);
+        setLastError(reason.isEmpty() ? noAnswerText() : reason);
         return false;
     }
     setLastError(QString());
@@ -183,6 +179,20 @@ bool IPPRequest::Execute(const char *resource)
     if (!s_savedPassword.isNull())
         s_rootAuthenticated = true;
     return true;
+}
+
+QString IPPRequest::noAnswerText()
+{
+    return QCoreApplication::translate("IPPRequest", "The printing service at %1 does not answer").arg(serverName());
+}
+
+HttpPtr IPPRequest::connectToScheduler()
+{
+    HttpPtr connection(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                    ConnectTimeoutMs, nullptr));
+    if (connection)
+        httpSetTimeout(connection.get(), AnswerTimeoutSeconds, nullptr, nullptr);
+    return connection;
 }
 
 QString IPPRequest::statusText(int status)
