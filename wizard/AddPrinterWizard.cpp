@@ -2,6 +2,7 @@
 
 #include "browserlauncher.h"
 #include "cupsmanager.h"
+#include "driverfetcher.h"
 #include "drivermatcher.h"
 #include "layoutdump.h"
 #include "listviewitemex.h"
@@ -18,7 +19,6 @@
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
@@ -35,18 +35,10 @@
 #include <QShortcut>
 #include <QUrl>
 
-#include <unistd.h>
-
 namespace {
 
 Q_LOGGING_CATEGORY(lcLayout, "queuewiz.layout", QtWarningMsg)
 
-constexpr int DriverFetchAttempts = 50;
-constexpr useconds_t DriverFetchPause = 200000;
-// Asking again only helps a scheduler that is still starting and refuses at
-// once; after a slower failure it would multiply the answer timeout.
-constexpr qint64 DriverFetchWindowMs = 10000;
-constexpr qint64 DriverFetchQuickFailureMs = 1000;
 // How long closing the wizard waits for a test page still being sent.
 constexpr int TestPageExitWaitMs = 10000;
 
@@ -209,20 +201,7 @@ void AddPrinterWizard::fetchDrivers()
     WaitCursor wait;
     m_pDriversList->clear();
     m_drivers.clear();
-    // The scheduler may still be starting (e.g. right after the package was
-    // installed): ask again for about ten seconds while it refuses.
-    QElapsedTimer window;
-    window.start();
-    bool fetched = false;
-    for (int attempt = 1;; ++attempt) {
-        QElapsedTimer call;
-        call.start();
-        fetched = CUPSManager::m_CUPSManagerInstance.listDrivers(m_drivers);
-        if (fetched || attempt == DriverFetchAttempts || call.elapsed() > DriverFetchQuickFailureMs
-            || window.elapsed() >= DriverFetchWindowMs)
-            break;
-        usleep(DriverFetchPause);
-    }
+    const bool fetched = DriverFetcher::fetch(CUPSManager::m_CUPSManagerInstance, m_drivers);
     for (auto it = m_drivers.cbegin(); it != m_drivers.cend(); ++it)
         m_pDriversList->addItem(it.key());
     showDriverFetchProblem(fetched);

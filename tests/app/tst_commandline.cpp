@@ -144,8 +144,8 @@ private slots:
 
         const QByteArray dialog = R"(<ui version="4.0"><class>F</class><widget class="QDialog" name="F"/></ui>)";
         QFile wizard(TestPaths::sourceDir() + "/ui/AddPrinterWizardBase.ui");
-        const QByteArray withoutChild = wizard.open(QIODevice::ReadOnly)
-            ? wizard.readAll().replace("name=\"OptionsButton\"", "name=\"Other\"") : QByteArray();
+        const QByteArray form = wizard.open(QIODevice::ReadOnly) ? wizard.readAll() : QByteArray();
+        const QByteArray withoutChild = QByteArray(form).replace("name=\"OptionsButton\"", "name=\"Other\"");
         const QStringList ui{ "--ui=FORM" };
 
         QTest::newRow("-h") << QStringList{ "-h" } << QByteArray() << true << 0 << QStringList{};
@@ -160,6 +160,8 @@ private slots:
         QTest::newRow("form without a child") << ui << withoutChild << true << 254
                                               << QStringList{ "Invalid UI description", "setupUi failed" };
         QTest::newRow("missing form") << ui << QByteArray() << true << 254 << QStringList{};
+        QTest::newRow("form cut in half") << ui << form.left(form.size() / 2) << true << 254
+                                          << QStringList{ "FORM: line " + QString::number(form.left(form.size() / 2).count('\n') + 1) };
     }
 
     // In a terminal without any display: the usage still works, the wizard
@@ -212,6 +214,7 @@ private slots:
         const QString formPath = pkg.filePath("form.ui");
         QVERIFY(form.isEmpty() || write(formPath, form));
         words.replaceInStrings("FORM", formPath);
+        errors.replaceInStrings("FORM", formPath);
         if (status == 254)
             errors << "Failed to load widget from <" + formPath + ">";
 

@@ -200,8 +200,11 @@ void IppFaultProxy::serve(int client)
     }
     headEnd += 4;
     std::string head = in.substr(0, headEnd);
-    std::string lower = head;
-    std::transform(lower.begin(), lower.end(), lower.begin(), [](unsigned char c) { return char(std::tolower(c)); });
+    const auto lowered = [](std::string text) {
+        std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return char(std::tolower(c)); });
+        return text;
+    };
+    const std::string lower = lowered(head);
     const bool chunked = lower.find("transfer-encoding: chunked") != std::string::npos;
 
     Rule rule;
@@ -236,15 +239,16 @@ void IppFaultProxy::serve(int client)
             sendAll(client, errorAnswer(rule.value, in.substr(body + 4, 4)));
             return track(client, false);
         }
-        if (faulted && rule.action == Stall) {
-            while (!m_stopping && readMore(client, in)) {
-            }
-            return track(client, false);
-        }
         if (faulted && rule.action == StopScheduler)
             kill(rule.value, SIGSTOP);
     }
 
+    // One request per connection, so that every request is looked at:
+    // the client connects anew for the next one.
+    const size_t connection = lowered(head).find("\r\nconnection:");
+    if (connection != std::string::npos)
+        head.erase(connection, head.find("\r\n", connection + 2) - connection);
+    head.insert(head.size() - 2, "Connection: close\r\n");
     const int upstream = connectLoopback(m_upstreamPort);
     if (upstream >= 0) {
         track(upstream, true);

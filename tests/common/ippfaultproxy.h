@@ -12,15 +12,15 @@
 
 // Stands between a client under test and a scheduler on the loopback and
 // passes every request on, unless told to fault one request of a given IPP
-// operation: answer it with an error status, keep it without an answer, or
-// stop the scheduler (SIGSTOP) just before passing it on.
+// operation: answer it with an error status, or stop the scheduler (SIGSTOP)
+// just before passing it on.
 //
 // It runs on threads of its own: the client under test blocks the thread
 // it sends from, typically the GUI thread, until the answer or its timeout.
 class IppFaultProxy
 {
 public:
-    enum Action { Fail, Stall, StopScheduler };
+    enum Action { Fail, StopScheduler };
 
     explicit IppFaultProxy(int upstreamPort);
     ~IppFaultProxy();

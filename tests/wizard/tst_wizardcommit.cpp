@@ -153,20 +153,25 @@ private slots:
         QTest::addColumn<QByteArray>("locale");
         QTest::addColumn<QString>("driver");
         QTest::addColumn<QString>("paper");
+        QTest::addColumn<QString>("faults");  // as for refused()
 
-        QTest::newRow("Letter country, A4 driver") << QByteArray("es_MX.UTF-8") << ColorLaser << "Letter";
-        QTest::newRow("A4 country, Letter driver") << QByteArray("de_DE.UTF-8") << Laser << "A4";
-        QTest::newRow("A4 country, A4 driver") << QByteArray("de_DE.UTF-8") << ColorLaser << "A4";
+        QTest::newRow("Letter country, A4 driver") << QByteArray("es_MX.UTF-8") << ColorLaser << "Letter" << "";
+        QTest::newRow("A4 country, Letter driver") << QByteArray("de_DE.UTF-8") << Laser << "A4" << "";
+        QTest::newRow("A4 country, A4 driver") << QByteArray("de_DE.UTF-8") << ColorLaser << "A4" << "";
+        // lpadmin's upload is the fourth CUPS-Add-Modify-Printer.
+        QTest::newRow("paper and default refused")
+            << QByteArray("es_MX.UTF-8") << ColorLaser << "Letter" << "16387 4 F 1280;16394 1 F 1025";
     }
 
     // lpadmin runs only when the driver's default is not the country's
     // paper, and reaches the scheduler the wizard uses even when the
-    // environment names none.
+    // environment names none. The finish page says what did not take effect.
     void paperSize()
     {
         QFETCH(QByteArray, locale);
         QFETCH(QString, driver);
         QFETCH(QString, paper);
+        QFETCH(QString, faults);
 
         // The scheduler may give a new queue its own paper size rather than
         // the driver's: a queue made the way the wizard makes it tells.
@@ -189,16 +194,22 @@ private slots:
         qputenv("LC_PAPER", locale);
         QCOMPARE(QString::fromLatin1(defaultPaperSize()), paper);
         qunsetenv("CUPS_SERVER");
+        IppFaultProxy proxy(m_sandbox.port());
+        QVERIFY(useProxy(proxy, faults));
         const QString name = unique("paper") + QString::number(++m_queues);
         const bool created = create(f, "127.0.0.1:9", driver, name);
         m_sandbox.use();
         QVERIFY(created);
+        const QString summary = f.child<QLabel>("FinishText")->text();
+        QCOMPARE(summary.contains("It is now your default printer."), faults.isEmpty());
+        QCOMPARE(summary.contains("Its paper size could not be set to " + paper), !faults.isEmpty());
+        QCOMPARE(CUPSManager::m_CUPSManagerInstance.defaultPrinterName() == name, faults.isEmpty());
 
         QFile recorded(log);
         const QByteArray calls = recorded.open(QIODevice::ReadOnly) ? recorded.readAll() : QByteArray();
         QCOMPARE(QString::fromUtf8(calls), driverDefault == paper ? QString()
                                            : QStringLiteral("-p %1 -o PageSize=%2 -o PageRegion=%2\n").arg(name, paper));
-        QCOMPARE(defaultChoice(name, "PageSize"), paper);
+        QCOMPARE(defaultChoice(name, "PageSize"), faults.isEmpty() ? paper : driverDefault);
     }
 
     void refused_data()
@@ -206,9 +217,9 @@ private slots:
         QTest::addColumn<QString>("existing");
         QTest::addColumn<QString>("ppd");
         QTest::addColumn<QString>("typed");
-        // "kill", or "OPERATION NTH ACTION VALUE" for the proxy: the nth
-        // request of that operation fails with status VALUE (F), is kept
-        // unanswered (S) or finds the scheduler stopped (P).
+        // "kill", or proxy rules "OPERATION NTH ACTION [STATUS]", separated by
+        // ";": the nth request of that operation fails with STATUS (F) or
+        // finds the scheduler stopped (P).
         QTest::addColumn<QString>("fault");
         QTest::addColumn<QString>("message");
 
@@ -247,15 +258,8 @@ private slots:
             ppdBefore = queuePPD(existing);
         }
         const QString defaultBefore = CUPSManager::m_CUPSManagerInstance.defaultPrinterName();
-        const QStringList rule = fault.split(' ');
         IppFaultProxy proxy(m_sandbox.port());
-        if (rule.size() > 1) {
-            QVERIFY(proxy.start());
-            cupsSetServer(proxy.server().toUtf8().constData());
-            proxy.fault(rule[0].toInt(), rule[1].toInt(),
-                        rule[2] == "F" ? IppFaultProxy::Fail : IppFaultProxy::StopScheduler,
-                        rule[2] == "F" ? rule[3].toInt() : schedulerPid());
-        }
+        QVERIFY(fault == "kill" || useProxy(proxy, fault));
         WizardFixture f;
         QVERIFY(toNamePage(f, "127.0.0.1:9100", ColorLaser, typed));
         const QString server = m_sandbox.server();
@@ -402,6 +406,25 @@ private slots:
     }
 
 private:
+    // Points the client at proxy, which applies the rules of faults; none
+    // leaves the client at the scheduler.
+    bool useProxy(IppFaultProxy &proxy, const QString &faults) const
+    {
+        if (faults.isEmpty())
+            return true;
+        if (!proxy.start())
+            return false;
+        cupsSetServer(proxy.server().toUtf8().constData());
+        for (const QString &rule : faults.split(';')) {
+            const QStringList word = rule.split(' ');
+            const bool fail = word.value(2) == "F";
+            proxy.fault(word.value(0).toInt(), word.value(1).toInt(),
+                        fail ? IppFaultProxy::Fail : IppFaultProxy::StopScheduler,
+                        fail ? word.value(3).toInt() : int(schedulerPid()));
+        }
+        return true;
+    }
+
     qint64 schedulerPid() const
     {
         QFile file(m_sandbox.directory() + "/cupsd.pid");
