@@ -102,16 +102,13 @@ IppFaultProxy::IppFaultProxy(int upstreamPort)
 IppFaultProxy::~IppFaultProxy()
 {
     m_stopping = true;
-    if (m_acceptor.joinable())
-        m_acceptor.join();
-    {
-        // Wakes the connections blocked in recv() or poll().
-        std::lock_guard<std::mutex> lock(m_mutex);
-        for (int fd : m_open)
+    // Wakes the thread wherever it blocks: accept(), recv() or poll().
+    for (int fd : {m_listener, m_client.load(), m_upstream.load()}) {
+        if (fd >= 0)
             shutdown(fd, SHUT_RDWR);
     }
-    for (std::thread &t : m_threads)
-        t.join();
+    if (m_thread.joinable())
+        m_thread.join();
     if (m_listener >= 0)
         close(m_listener);
 }
@@ -128,7 +125,7 @@ bool IppFaultProxy::start()
         || getsockname(m_listener, reinterpret_cast<sockaddr *>(&address), &length) != 0)
         return false;
     m_port = ntohs(address.sin_port);
-    m_acceptor = std::thread(&IppFaultProxy::acceptLoop, this);
+    m_thread = std::thread(&IppFaultProxy::run, this);
     return true;
 }
 
@@ -164,29 +161,16 @@ bool IppFaultProxy::takeRule(int operation, Rule *rule)
     return false;
 }
 
-void IppFaultProxy::track(int fd, bool open)
+void IppFaultProxy::run()
 {
-    std::lock_guard<std::mutex> lock(m_mutex);
-    if (open) {
-        m_open.insert(fd);
-    } else {
-        m_open.erase(fd);
-        close(fd);
-    }
-}
-
-void IppFaultProxy::acceptLoop()
-{
-    pollfd listener{m_listener, POLLIN, 0};
     while (!m_stopping) {
-        if (poll(&listener, 1, 100) <= 0)
-            continue;
         const int client = accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
         if (client < 0)
             continue;
-        track(client, true);
-        std::lock_guard<std::mutex> lock(m_mutex);
-        m_threads.emplace_back(&IppFaultProxy::serve, this, client);
+        m_client = client;
+        serve(client);
+        m_client = -1;
+        close(client);
     }
 }
 
@@ -196,7 +180,7 @@ void IppFaultProxy::serve(int client)
     size_t headEnd;
     while ((headEnd = in.find("\r\n\r\n")) == std::string::npos) {
         if (!readMore(client, in))
-            return track(client, false);
+            return;
     }
     headEnd += 4;
     std::string head = in.substr(0, headEnd);
@@ -226,7 +210,7 @@ void IppFaultProxy::serve(int client)
         while (in.size() < body + 8 && readMore(client, in)) {
         }
         if (in.size() < body + 8)
-            return track(client, false);
+            return;
         const int operation = (uint8_t(in[body + 2]) << 8) | uint8_t(in[body + 3]);
         faulted = takeRule(operation, &rule);
         if (faulted && rule.action == Fail) {
@@ -237,7 +221,7 @@ void IppFaultProxy::serve(int client)
                    && readMore(client, in)) {
             }
             sendAll(client, errorAnswer(rule.value, in.substr(body + 4, 4)));
-            return track(client, false);
+            return;
         }
         if (faulted && rule.action == StopScheduler)
             kill(rule.value, SIGSTOP);
@@ -250,11 +234,11 @@ void IppFaultProxy::serve(int client)
         head.erase(connection, head.find("\r\n", connection + 2) - connection);
     head.insert(head.size() - 2, "Connection: close\r\n");
     const int upstream = connectLoopback(m_upstreamPort);
-    if (upstream >= 0) {
-        track(upstream, true);
-        if (sendAll(upstream, head + in.substr(headEnd)))
-            relay(client, upstream);
-        track(upstream, false);
-    }
-    track(client, false);
+    if (upstream < 0)
+        return;
+    m_upstream = upstream;
+    if (sendAll(upstream, head + in.substr(headEnd)))
+        relay(client, upstream);
+    m_upstream = -1;
+    close(upstream);
 }

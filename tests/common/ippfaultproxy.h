@@ -6,7 +6,6 @@
 
 #include <atomic>
 #include <mutex>
-#include <set>
 #include <thread>
 #include <vector>
 
@@ -15,7 +14,7 @@
 // operation: answer it with an error status, or stop the scheduler (SIGSTOP)
 // just before passing it on.
 //
-// It runs on threads of its own: the client under test blocks the thread
+// It runs on a thread of its own: the client under test blocks the thread
 // it sends from, typically the GUI thread, until the answer or its timeout.
 class IppFaultProxy
 {
@@ -41,28 +40,29 @@ public:
 private:
     struct Rule
     {
-        int operation = -1;
-        int remaining = 0;
-        Action action = Fail;
-        int value = 0;
+        int operation;
+        int remaining;
+        Action action;
+        int value;
     };
 
-    void acceptLoop();
+    // One connection at a time is enough: the client under test waits for
+    // each answer, and every connection carries one request.
+    void run();
     void serve(int client);
-    // What to do with a request of operation; consumes the rule it matches.
+    // Whether a request of operation is to be faulted, and how.
     bool takeRule(int operation, Rule *rule);
-    void track(int fd, bool open);
 
     int m_upstreamPort;
     int m_listener = -1;
     int m_port = 0;
     std::atomic<bool> m_stopping{false};
+    std::atomic<int> m_client{-1};
+    std::atomic<int> m_upstream{-1};
     mutable std::mutex m_mutex;
     std::vector<Rule> m_rules;
     QList<int> m_operations;
-    std::set<int> m_open;
-    std::vector<std::thread> m_threads;
-    std::thread m_acceptor;
+    std::thread m_thread;
 };
 
 #endif
