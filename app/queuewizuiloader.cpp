@@ -23,7 +23,8 @@ QWidget *QueuewizUiLoader::createWidget(const QString &className, QWidget *paren
     return WizardUiLoader<AddPrinterWizard>::createWidget(className, parent, name);
 }
 
-AddPrinterWizard *QueuewizUiLoader::load(const QString &uiPath, const QString &titleUiPath, QWidget *parent)
+AddPrinterWizard *QueuewizUiLoader::load(const QString &uiPath, const QString &titleUiPath, QWidget *parent,
+                                         QString *loadError)
 {
     // The first loader stays for the life of the process; later loads use
     // one of their own.
@@ -36,7 +37,10 @@ AddPrinterWizard *QueuewizUiLoader::load(const QString &uiPath, const QString &t
         own = std::make_unique<QueuewizUiLoader>(titleUiPath);
         loader = own.get();
     }
-    return setupAs<AddPrinterWizard>(loader->loadAs(uiPath, QStringLiteral("AddPrinterWizard"), parent));
+    QWidget *form = loader->loadAs(uiPath, QStringLiteral("AddPrinterWizard"), parent);
+    if (loadError)
+        *loadError = loader->loadError();
+    return setupAs<AddPrinterWizard>(form);
 }
 
 QueuewizUiLoader *QueuewizUiLoader::registered()

@@ -15,8 +15,10 @@ public:
                           const QString &name = QString()) override;
 
     // The wizard of uiPath, its page titles from titleUiPath, set up; nothing
-    // (after the loader's warnings) when the form is unusable.
-    static AddPrinterWizard *load(const QString &uiPath, const QString &titleUiPath, QWidget *parent = nullptr);
+    // (after the loader's warnings) when the form is unusable. *loadError
+    // receives why a form file could not be read (UiLoaderEx::loadError()).
+    static AddPrinterWizard *load(const QString &uiPath, const QString &titleUiPath, QWidget *parent = nullptr,
+                                  QString *loadError = nullptr);
 
     // The loader kept from the first load of the process; null before.
     static QueuewizUiLoader *registered();

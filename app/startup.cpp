@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFont>
 #include <QLayout>
+#include <QMessageBox>
 
 #include <cstdio>
 #include <cstdlib>
@@ -71,6 +72,19 @@ bool prepareForNoDisplay(int argc, char **argv)
     return false;
 }
 
+// Started from the menu, nobody reads standard error: say it in a window
+// too, unless there is no screen to show one on.
+void reportDamagedForm(const QString &error)
+{
+    qWarning("%s", qPrintable(error));
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        return;
+    QMessageBox::critical(nullptr, QCoreApplication::translate("AddPrinterWizard", "Error!"),
+                          QCoreApplication::translate("AddPrinterWizard",
+                                                      "The wizard can't start: its form file is damaged.\n%1")
+                              .arg(error));
+}
+
 } // namespace
 
 int queuewizMain(int argc, char **argv)
@@ -104,8 +118,11 @@ int queuewizMain(int argc, char **argv)
     UiLoader::loadImages(paths.res);
     UiLoader::loadImages(paths.resTitle);
 
-    std::unique_ptr<AddPrinterWizard> wizard(QueuewizUiLoader::load(paths.ui, paths.uiTitle, nullptr));
+    QString formError;
+    std::unique_ptr<AddPrinterWizard> wizard(QueuewizUiLoader::load(paths.ui, paths.uiTitle, nullptr, &formError));
     if (!wizard) {
+        if (!formError.isEmpty())
+            reportDamagedForm(formError);
         qWarning("Failed to load widget from <%s>", qPrintable(paths.ui));
         // Qt 6 has no global GUI lock to give back here.
         return -2;

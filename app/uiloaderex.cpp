@@ -16,13 +16,19 @@ UiLoaderEx::UiLoaderEx(QObject *parent)
 QWidget *UiLoaderEx::loadAs(const QString &fileName, const QString &className, QWidget *parent)
 {
     QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
+        m_loadError = fileName + QStringLiteral(": ") + file.errorString();
         return nullptr;
-    return loadAs(&file, className, parent);
+    }
+    QWidget *w = loadAs(&file, className, parent);
+    if (!m_loadError.isEmpty())
+        m_loadError.prepend(fileName + QStringLiteral(": "));
+    return w;
 }
 
 QWidget *UiLoaderEx::loadAs(QIODevice *device, const QString &className, QWidget *parent)
 {
+    m_loadError.clear();
     if (className.isEmpty())
         return load(device, parent);
 
@@ -30,8 +36,10 @@ QWidget *UiLoaderEx::loadAs(QIODevice *device, const QString &className, QWidget
     QString error;
     int line = 0;
     int column = 0;
-    if (!doc.setContent(device, &error, &line, &column))
+    if (!doc.setContent(device, &error, &line, &column)) {
+        m_loadError = QStringLiteral("line %1, column %2: %3").arg(line).arg(column).arg(error);
         return nullptr;
+    }
 
     QDomElement widget;
     for (QDomNode n = doc.documentElement().firstChild(); !n.isNull(); n = n.nextSibling()) {

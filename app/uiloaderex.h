@@ -22,6 +22,10 @@ public:
     // An empty className loads the form as it stands.
     QWidget *loadAs(QIODevice *device, const QString &className, QWidget *parent = nullptr);
 
+    // Why the last loadAs() found no usable form file: the file and what
+    // is wrong with it (its XML error and where); empty when it was read.
+    QString loadError() const { return m_loadError; }
+
     // Whether a widget may stand for a form drawn for formClass.
     static bool standsFor(const QWidget *widget, const QString &formClass);
 
@@ -29,6 +33,9 @@ public:
     // nothing (the widget is then deleted).
     template <class T>
     static T *setupAs(QWidget *widget);
+
+private:
+    QString m_loadError;
 };
 
 template <class T>

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <memory>
 #include <strings.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 struct AppContext actx;
@@ -48,16 +49,32 @@ struct FileCloser {
 };
 using FilePtr = std::unique_ptr<FILE, FileCloser>;
 
+// A directory or binary garbage (a byte that is neither text nor a line
+// or tab character) is no configuration file: it counts as missing.
+FilePtr openIfText(const char *path)
+{
+    FilePtr file(fopen(path, "r"));
+    struct stat st;
+    if (!file || fstat(fileno(file.get()), &st) != 0 || !S_ISREG(st.st_mode))
+        return FilePtr();
+    for (int c; (c = fgetc(file.get())) != EOF;) {
+        if ((c < 0x20 && c != '\t' && c != '\n' && c != '\r') || c == 0x7f)
+            return FilePtr();
+    }
+    rewind(file.get());
+    return file;
+}
+
 FilePtr openFirstConfig()
 {
     char path[OEM_PATH_MAX + 16];
     const char *dirs[] = { actx.shareDir, actx.rootDir };
     for (const char *dir : dirs) {
         snprintf(path, sizeof path, "%s/%s", dir, "OEM.ini");
-        if (FILE *f = fopen(path, "r"))
-            return FilePtr(f);
+        if (FilePtr f = openIfText(path))
+            return f;
     }
-    return FilePtr(fopen("OEM.ini", "r"));
+    return openIfText("OEM.ini");
 }
 
 void setDefaults()

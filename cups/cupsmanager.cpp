@@ -11,11 +11,13 @@
 #include "softassert.h"
 
 #include <QFileInfo>
+#include <QUrl>
 #include <QRegularExpression>
 #include <QSet>
 
 #include <cups/ppd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
@@ -421,7 +423,7 @@ bool CUPSManager::fetchPrinters(QMap<QString, CUPSPrinter> &printers, int type, 
     printers.clear();
     Requests::GetPrinters request(type, mask);
     request.addKeywordList("requested-attributes", queueAttributes());
-    if (!send(request))
+    if (!send(request) || (LastStatus >= IPP_STATUS_ERROR_BAD_REQUEST && LastStatus != IPP_STATUS_ERROR_NOT_FOUND))
         return false;
     forEachRecord<CUPSPrinter>(request.response(), [&](CUPSPrinter &printer) {
         completeListed(printer);
@@ -477,6 +479,33 @@ bool CUPSManager::findPrinter(const QString &name, CUPSPrinter &printer)
     return true;
 }
 
+QByteArray CUPSManager::fetchPPD(const QString &queue)
+{
+    // cupsGetPPD() would wait for an answer without end on its shared
+    // connection.
+    const HttpPtr http = IPPRequest::connectToScheduler();
+    LastStatus = 0;
+    m_lastError.clear();
+    char path[1024];
+    const int fd = http ? cupsTempFd(path, sizeof path) : -1;
+    if (fd < 0) {
+        m_lastError = http ? QString::fromLocal8Bit(strerror(errno)) : IPPRequest::noAnswerText();
+        return QByteArray();
+    }
+    const QByteArray resource = "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
+    const http_status_t status = cupsGetFd(http.get(), resource.constData(), fd);
+    close(fd);
+    if (status == HTTP_STATUS_OK)
+        return QByteArray(path);
+    unlink(path);
+    // HTTP_STATUS_ERROR: the connection broke or the answer timed out.
+    if (status == HTTP_STATUS_ERROR)
+        m_lastError = IPPRequest::noAnswerText();
+    else
+        LastStatus = status == HTTP_STATUS_NOT_FOUND ? IPP_STATUS_ERROR_NOT_FOUND : IPP_STATUS_ERROR_INTERNAL;
+    return QByteArray();
+}
+
 // --- Drivers -------------------------------------------------------------
 
 bool CUPSManager::listDrivers(QMap<QString, CUPSDriver> &drivers)
@@ -491,7 +520,7 @@ bool CUPSManager::listDrivers(QMap<QString, CUPSDriver> &drivers, const QString 
     // narrow the list either.
     const QByteArray make = vendorFilter.toUtf8();
     Requests::GetPPDs request(vendorFilter.isEmpty() ? nullptr : make.constData());
-    if (!send(request))
+    if (!send(request) || (LastStatus >= IPP_STATUS_ERROR_BAD_REQUEST && LastStatus != IPP_STATUS_ERROR_NOT_FOUND))
         return false;
     ipp_t *response = request.response();
     QSet<QString> sharedModels;

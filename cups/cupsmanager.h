@@ -20,9 +20,9 @@ class IPPRequest;
 // Operations return false at the first request that failed: no connection,
 // no readable answer, or an answer whose IPP status is an error (0x0400 and
 // up). LastStatus then holds the status for the message (lastStatusText()).
-// Listing succeeds whenever an answer arrived, whatever its status (the
-// scheduler answers "not found" when it has nothing to list). Nothing
-// already done is undone after a failure.
+// Listing fails on an error status too, except "not found", which the
+// scheduler answers when it has nothing to list. Nothing already done is
+// undone after a failure.
 class CUPSManager
 {
 public:
@@ -45,6 +45,9 @@ public:
     // What the user is told of the last request: the fixed text of
     // LastStatus, or, when no answer came, why (IPPRequest::lastError()).
     QString lastStatusText() const;
+    // Whether the last request got an answer, whatever its status; false
+    // when the scheduler could not be reached or did not answer in time.
+    bool answered() const { return LastStatus != 0 || m_lastError.isEmpty(); }
 
     // The URI of a printer or a class: "ipp://localhost/printers/NAME" when
     // the scheduler's local socket exists, else with the server and port.
@@ -98,11 +101,14 @@ public:
     bool listClasses(QMap<QString, CUPSClass> &classes);
     // Fills printer from the scheduler; false when there is no such queue.
     bool findPrinter(const QString &name, CUPSPrinter &printer);
+    // Fetches the queue's PPD into a temporary file, within the request
+    // timeouts; its path (the caller removes it), empty on failure.
+    QByteArray fetchPPD(const QString &queue);
 
     // --- Drivers --------------------------------------------------------
     // The drivers of the package's vendor, keyed by display name: the model,
     // or "model (language)" when several drivers share a model. Empty and
-    // false when the scheduler could not be asked.
+    // false when the scheduler could not be asked or answered an error.
     bool listDrivers(QMap<QString, CUPSDriver> &drivers);
     // The same for any vendor filter; empty keeps every driver.
     bool listDrivers(QMap<QString, CUPSDriver> &drivers, const QString &vendorFilter);

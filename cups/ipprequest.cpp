@@ -10,10 +10,13 @@
 
 namespace {
 
-// Bounds for a scheduler that does not answer; listing a large driver
-// catalogue can legitimately take a while.
-constexpr int ConnectTimeoutMs = 10000;
-constexpr double AnswerTimeoutSeconds = 120.0;
+// Bounds for a scheduler that does not answer. Every request blocks the
+// window, so they are sized to what a healthy local scheduler needs: it
+// accepts at once and answers within a few seconds even when it lists a
+// large driver catalogue for the first time. A stopped scheduler thus costs
+// one answer timeout per request, and callers stop at the first of those.
+constexpr int ConnectTimeoutMs = 3000;
+constexpr double AnswerTimeoutSeconds = 10.0;
 
 QString cancelled()
 {
@@ -105,11 +108,6 @@ ipp_t *copyOf(ipp_t *request)
     ippSetRequestId(copy, ippGetRequestId(request));
     ippCopyAttributes(copy, request, 0, nullptr, nullptr);
     return copy;
-}
-
-QString notAnswering()
-{
-    return QCoreApplication::translate("IPPRequest", "The printing service at %1 does not answer").arg(serverName());
 }
 
 } // namespace
@@ -220,13 +218,11 @@ bool IPPRequest::Execute(const char *resource)
 
     const AuthenticationScope scope;
     s_authFailure.clear();
-    m_connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                                    ConnectTimeoutMs, nullptr));
+    m_connection = connectToScheduler();
     if (!m_connection) {
-        setLastError(notAnswering());
+        setLastError(noAnswerText());
         return false;
     }
-    httpSetTimeout(m_connection.get(), AnswerTimeoutSeconds, nullptr, nullptr);
 
     IPPLog::line(IPPLog::Request, "Requesting operation 0x%x...", static_cast<unsigned>(m_operation));
     const QByteArray file = QFile::encodeName(m_fileName);
@@ -251,7 +247,7 @@ bool IPPRequest::Execute(const char *resource)
         if (s_offered > 0 || s_credentials.fresh)
             s_credentials.clear();
         const QString reason = s_authFailure.isEmpty() ? QString::fromUtf8(cupsLastErrorString()) : s_authFailure;
-        setLastError(reason.isEmpty() ? notAnswering() : reason);
+        setLastError(reason.isEmpty() ? noAnswerText() : reason);
         return false;
     }
     setLastError(QString());
@@ -263,6 +259,20 @@ bool IPPRequest::Execute(const char *resource)
     if (s_offered > 0)
         s_credentials.accepted = true;
     return true;
+}
+
+QString IPPRequest::noAnswerText()
+{
+    return QCoreApplication::translate("IPPRequest", "The printing service at %1 does not answer").arg(serverName());
+}
+
+HttpPtr IPPRequest::connectToScheduler()
+{
+    HttpPtr connection(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                    ConnectTimeoutMs, nullptr));
+    if (connection)
+        httpSetTimeout(connection.get(), AnswerTimeoutSeconds, nullptr, nullptr);
+    return connection;
 }
 
 QString IPPRequest::statusText(int status)

@@ -57,12 +57,18 @@ public:
     // The answer; nullptr until one arrived.
     ipp_t *response() const { return m_response.get(); }
 
+    // A connection to the scheduler with the request timeouts, for the few
+    // libcups calls that take one (cupsGetPPD2); null when none was made.
+    static HttpPtr connectToScheduler();
+
     // The fixed text of an IPP status code for logs and messages.
     static QString statusText(int status);
     // Why the last Execute got no answer (no connection, a broken or timed
     // out answer, a cancelled password prompt, passwords refused), for
     // messages; empty when an answer arrived.
     static QString lastError();
+    // "The printing service at HOST:PORT does not answer".
+    static QString noAnswerText();
 
     // How often one request may offer a password that the scheduler refuses.
     static constexpr int MaxPasswordAttempts = 3;

@@ -2,6 +2,7 @@
 
 #include "browserlauncher.h"
 #include "cupsmanager.h"
+#include "driverfetcher.h"
 #include "drivermatcher.h"
 #include "layoutdump.h"
 #include "listviewitemex.h"
@@ -34,14 +35,9 @@
 #include <QShortcut>
 #include <QUrl>
 
-#include <unistd.h>
-
 namespace {
 
 Q_LOGGING_CATEGORY(lcLayout, "queuewiz.layout", QtWarningMsg)
-
-constexpr int DriverFetchAttempts = 50;
-constexpr useconds_t DriverFetchPause = 200000;
 
 QString shareDir()
 {
@@ -60,6 +56,7 @@ bool bind(QWidget *root, T *&member, const char *name)
 
 AddPrinterWizard::AddPrinterWizard(QWidget *parent, const QString &name)
     : TitlelessWizard(parent, name)
+    , m_creator(CUPSManager::m_CUPSManagerInstance)
 {
 }
 
@@ -119,6 +116,10 @@ bool AddPrinterWizard::setupUi()
     m_setupFinished = true;
     m_pPortsView->setMfpMode(false);
 
+    m_pDriversProblemLabel = findChild<QLabel *>(QStringLiteral("DriversProblemLabel"));
+    m_pRetryDriversButton = findChild<QPushButton *>(QStringLiteral("RetryDriversButton"));
+    if (m_pRetryDriversButton)
+        connect(m_pRetryDriversButton, &QPushButton::clicked, this, &AddPrinterWizard::retryDrivers);
     fetchDrivers();
 
     m_pNameEdit->setValidator(new QRegularExpressionValidator(
@@ -199,20 +200,37 @@ void AddPrinterWizard::fetchDrivers()
     WaitCursor wait;
     m_pDriversList->clear();
     m_drivers.clear();
-    // The scheduler may still be starting (e.g. right after the package was
-    // installed): ask again for about ten seconds.
-    for (int attempt = 1; !CUPSManager::m_CUPSManagerInstance.listDrivers(m_drivers); ++attempt) {
-        if (attempt == DriverFetchAttempts)
-            break;
-        usleep(DriverFetchPause);
-    }
+    const bool fetched = DriverFetcher::fetch(CUPSManager::m_CUPSManagerInstance, m_drivers);
     for (auto it = m_drivers.cbegin(); it != m_drivers.cend(); ++it)
         m_pDriversList->addItem(it.key());
+    showDriverFetchProblem(fetched);
 
     if (portTypeId() == PortType_Connected) {
         if (const LocalDeviceList::Device *device = m_localDevices.find(m_pConnectedList->currentText()))
             selectMatchingDriver(device->driverModel(), device->driverMake());
     }
+}
+
+void AddPrinterWizard::showDriverFetchProblem(bool fetched)
+{
+    if (!m_pDriversProblemLabel || !m_pRetryDriversButton)
+        return;
+    const CUPSManager &cups = CUPSManager::m_CUPSManagerInstance;
+    if (!fetched && cups.answered())
+        m_pDriversProblemLabel->setText(
+            tr("The printing service could not list the drivers: %1").arg(cups.lastStatusText()));
+    else if (!fetched)
+        m_pDriversProblemLabel->setText(tr("The printing service does not answer"));
+    m_pDriversProblemLabel->setVisible(!fetched);
+    m_pRetryDriversButton->setVisible(!fetched);
+}
+
+void AddPrinterWizard::retryDrivers()
+{
+    fetchDrivers();
+    OnDriverChanged();
+    if (m_pDriversList->count() > 0)
+        m_pDriversList->setFocus();
 }
 
 int AddPrinterWizard::portTypeId() const
@@ -478,19 +496,6 @@ bool AddPrinterWizard::commitPrinter()
     softAssert(isPrinterNameAssigned(), "isPrinterNameAssigned()", "AddPrinterWizard", 611);
 
     const QString name = m_pNameEdit->text();
-    const PrinterCreator creator(CUPSManager::m_CUPSManagerInstance);
-    bool inUse = false;
-    {
-        WaitCursor wait;
-        inUse = creator.nameInUse(name);
-    }
-    if (inUse) {
-        showError(tr("Printer '%s' already exists! Choose another name.").replace(QLatin1String("%s"), name));
-        m_pNameEdit->setFocus();
-        m_pNameEdit->selectAll();
-        return false;
-    }
-
     CUPSPrinter printer(name);
     printer.setDeviceURI(m_pPortsView->selectedURI());
     printer.setLocation(m_pLocationEdit->text());
@@ -500,27 +505,49 @@ bool AddPrinterWizard::commitPrinter()
     const QListWidgetItem *driver = m_pDriversList->currentItem();
     printer.setDriver(m_drivers.value(driver ? driver->text() : QString()));
 
-    bool created = false;
+    const char *paper = defaultPaperSize();
+    PrinterCreator::Result result;
     {
         WaitCursor wait;
-        created = creator.create(printer);
-        if (created) {
-            creator.applyPaperSize(name, defaultPaperSize());
-            printer.setDefault(creator.makeDefault(name));
-        }
+        result = m_creator.commit(printer, paper);
     }
-    if (!created) {
-        showError(tr("Can't add printer!"), CUPSManager::m_CUPSManagerInstance.lastStatusText());
+    switch (result.outcome) {
+    case PrinterCreator::Result::NameInUse:
+        showError(tr("Printer '%s' already exists! Choose another name.").replace(QLatin1String("%s"), name));
+        m_pNameEdit->setFocus();
+        m_pNameEdit->selectAll();
         return false;
+    case PrinterCreator::Result::NameUnchecked:
+        showError(tr("Can't check whether the name is free: %1. Try again.").arg(result.reason));
+        return false;
+    case PrinterCreator::Result::NotCreated:
+        showError(tr("Can't add printer!"),
+                  result.removed ? result.reason + QLatin1Char('\n') + tr("The incomplete printer was removed again.")
+                                 : result.reason);
+        return false;
+    case PrinterCreator::Result::Created:
+        break;
     }
+    printer.setDefault(result.madeDefault);
     m_newPrinter = printer;
 
     m_pFinishText->setText(m_finishTemplate.arg(name.toHtmlEscaped(), m_newPrinter.Driver().Model().toHtmlEscaped(),
-                                                m_newPrinter.DeviceURI().toHtmlEscaped()));
+                                                m_newPrinter.DeviceURI().toHtmlEscaped(), finishNotes(result, paper)));
     // The queue exists now: there is nothing to go back to or to cancel.
     setOption(QWizard::NoBackButtonOnLastPage, true);
     setOption(QWizard::NoCancelButton, true);
     return true;
+}
+
+// The queue works either way; the user learns what to set by hand.
+QString AddPrinterWizard::finishNotes(const PrinterCreator::Result &result, const char *paper) const
+{
+    QString notes = result.madeDefault ? tr("It is now your default printer.")
+                                       : tr("It could not be made your default printer.");
+    if (!result.paperSet)
+        notes += QLatin1Char(' ')
+            + tr("Its paper size could not be set to %1; choose it in the driver options.").arg(QLatin1String(paper));
+    return QStringLiteral("<p>") + notes.toHtmlEscaped() + QStringLiteral("</p>");
 }
 
 void AddPrinterWizard::showError(const QString &text, const QString &details)

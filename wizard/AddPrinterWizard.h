@@ -6,6 +6,7 @@
 #include "localdevicelist.h"
 #include "networkdevicelist.h"
 #include "pixmapmanager.h"
+#include "printercreator.h"
 #include "titlelesswizard.h"
 
 #include <QMap>
@@ -94,6 +95,12 @@ private:
     void proposeName();
     // Creates the queue; false (after a message) keeps the name page.
     bool commitPrinter();
+    // The finish page's word on the default printer and the paper size.
+    QString finishNotes(const PrinterCreator::Result &result, const char *paper) const;
+    // The driver page's explanation and Retry button, shown when the list
+    // could not be fetched.
+    void showDriverFetchProblem(bool fetched);
+    void retryDrivers();
     void showError(const QString &text, const QString &details = QString());
     void connectSlots();
     // A page ("name.htm#anchor") of the package's help folder as a file URL,
@@ -119,11 +126,17 @@ private:
     QLabel *m_pFinishText = nullptr;
     QPushButton *m_pTestButton = nullptr;
     QPushButton *m_pOptionsButton = nullptr;
+    // Optional: a form without them shows an empty list and no reason.
+    QLabel *m_pDriversProblemLabel = nullptr;
+    QPushButton *m_pRetryDriversButton = nullptr;
 
     QButtonGroup *m_pPortTypes = nullptr;
     LocalDeviceList m_localDevices;
     NetworkDeviceList m_NetworkDevices;
     CUPSPrinter m_newPrinter;
+    // Lives as long as the wizard: it remembers queues a failed commit may
+    // have left half-made.
+    PrinterCreator m_creator;
     // The running test page program, null when none runs.
     QProcess *m_pTestPrinterProcess = nullptr;
     QMap<QString, CUPSDriver> m_drivers;

@@ -60,10 +60,80 @@ PrinterCreator::PrinterCreator(CUPSManager &cups)
 {
 }
 
-bool PrinterCreator::nameInUse(const QString &name) const
+PrinterCreator::Result PrinterCreator::commit(const CUPSPrinter &printer, const char *paper)
+{
+    Result result;
+    const QString name = printer.Name();
+    if (!removeUnfinished(result))
+        return result;
+
+    bool listed = false;
+    if (nameInUse(name, &listed)) {
+        result.outcome = Result::NameInUse;
+        return result;
+    }
+    if (!listed) {
+        // Taking an unknown answer for a free name would overwrite a queue.
+        result.outcome = Result::NameUnchecked;
+        result.reason = m_cups.lastStatusText();
+        return result;
+    }
+
+    if (!create(printer)) {
+        result.reason = m_cups.lastStatusText();
+        undoCreate(name, result);
+        return result;
+    }
+    result.outcome = Result::Created;
+
+    // The queue works from here on; what follows only refines it.
+    applyPaperSize(name, paper);
+    if (!m_cups.answered())
+        return result;
+    result.paperSet = isPaperDefault(name, paper);
+    if (!m_cups.answered())
+        return result;
+    result.madeDefault = makeDefault(name);
+    return result;
+}
+
+bool PrinterCreator::removeUnfinished(Result &result)
+{
+    while (!m_unfinished.isEmpty()) {
+        const QString name = m_unfinished.first();
+        CUPSPrinter found;
+        const bool exists = m_cups.findPrinter(name, found);
+        if ((exists && !m_cups.deletePrinter(name)) || (!exists && !m_cups.answered())) {
+            result.reason = m_cups.lastStatusText();
+            return false;
+        }
+        m_unfinished.removeFirst();
+    }
+    return true;
+}
+
+void PrinterCreator::undoCreate(const QString &name, Result &result)
+{
+    // The name was free before this commit, so a queue of that name now is
+    // the one it began. Without an answer nothing can be removed now; the
+    // request may still take effect once the scheduler goes on.
+    CUPSPrinter found;
+    if (!m_cups.answered()) {
+        m_unfinished << name;
+    } else if (m_cups.findPrinter(name, found)) {
+        result.removed = m_cups.deletePrinter(name);
+        if (!result.removed)
+            m_unfinished << name;
+    } else if (!m_cups.answered()) {
+        m_unfinished << name;
+    }
+}
+
+bool PrinterCreator::nameInUse(const QString &name, bool *listed) const
 {
     QMap<QString, CUPSPrinter> printers;
-    if (!m_cups.listPrinters(printers))
+    *listed = m_cups.listPrinters(printers);
+    if (!*listed)
         return false;
     for (auto it = printers.cbegin(); it != printers.cend(); ++it) {
         if (it.key().compare(name, Qt::CaseInsensitive) == 0)
@@ -79,7 +149,8 @@ bool PrinterCreator::create(const CUPSPrinter &printer) const
 
 bool PrinterCreator::isPaperDefault(const QString &queue, const char *paper) const
 {
-    const TempFile copy(cupsGetPPD(queue.toUtf8().constData()));
+    const QByteArray fetched = m_cups.fetchPPD(queue);
+    const TempFile copy(fetched.isEmpty() ? nullptr : fetched.constData());
     if (copy.isNull())
         return false;
     const PpdFilePtr ppd(ppdOpenFile(QFile::encodeName(copy.path()).constData()));
@@ -121,7 +192,8 @@ bool PrinterCreator::applyPaperSize(const QString &queue, const char *paper) con
 
 bool PrinterCreator::setPaperInDriver(const QString &queue, const char *paper) const
 {
-    const TempFile fetched(cupsGetPPD(queue.toUtf8().constData()));
+    const QByteArray fetchedPath = m_cups.fetchPPD(queue);
+    const TempFile fetched(fetchedPath.isEmpty() ? nullptr : fetchedPath.constData());
     if (fetched.isNull())
         return false;
     const PpdFilePtr ppd(ppdOpenFile(QFile::encodeName(fetched.path()).constData()));

@@ -3,6 +3,7 @@
 
 #include <QProcessEnvironment>
 #include <QString>
+#include <QStringList>
 
 class CUPSManager;
 class CUPSPrinter;
@@ -20,12 +21,37 @@ public:
     static constexpr int LpadminPolls = 50;
     static constexpr int LpadminPollMs = 100;
 
+    // What one commit did on the scheduler.
+    struct Result
+    {
+        enum Outcome {
+            Created,       // the queue exists; see paperSet and madeDefault
+            NameInUse,     // a queue of that name exists; nothing was sent
+            NameUnchecked, // the queues could not be listed; nothing was sent
+            NotCreated     // the scheduler refused or stopped answering
+        };
+        Outcome outcome = NotCreated;
+        // Why the scheduler refused, or why no answer came; empty on success.
+        QString reason;
+        // A queue this commit had begun was removed again.
+        bool removed = false;
+        bool paperSet = false;
+        bool madeDefault = false;
+    };
+
     explicit PrinterCreator(CUPSManager &cups);
+
+    // Checks the name, creates the queue, sets the paper size and makes the
+    // queue the default printer, in that order. Stops at the first request
+    // that got no answer, so that a stopped scheduler costs one timeout. A
+    // queue left half-made by a failure is removed, at once when the
+    // scheduler answers, else by the next commit.
+    Result commit(const CUPSPrinter &printer, const char *paper);
 
     // Whether a queue with this name exists, letter case aside and whatever
     // its driver: the scheduler would overwrite "office" when asked to add
-    // "Office". False also when the queues could not be listed.
-    bool nameInUse(const QString &name) const;
+    // "Office". False with *listed false when the queues could not be listed.
+    bool nameInUse(const QString &name, bool *listed) const;
 
     bool create(const CUPSPrinter &printer) const;
 
@@ -59,8 +85,16 @@ public:
 private:
     // Whether the process pid has not ended yet.
     static bool isRunning(qint64 pid);
+    // Removes the queues earlier commits left half-made; false when one is
+    // still there.
+    bool removeUnfinished(Result &result);
+    // After a failed create: removes what the failure left of the queue.
+    void undoCreate(const QString &name, Result &result);
 
     CUPSManager &m_cups;
+    // Queues this wizard began that may exist half-made: the scheduler
+    // stopped answering before they were finished or removed.
+    QStringList m_unfinished;
 };
 
 #endif

@@ -4,6 +4,40 @@
 <context>
     <name>AddPrinterWizard</name>
     <message>
+        <source>The wizard can&apos;t start: its form file is damaged.
+%1</source>
+        <translation>Der Assistent kann nicht starten: Seine Formulardatei ist beschädigt.
+%1</translation>
+    </message>
+    <message>
+        <source>Can&apos;t check whether the name is free: %1. Try again.</source>
+        <translation>Es lässt sich nicht prüfen, ob der Name frei ist: %1. Bitte versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The incomplete printer was removed again.</source>
+        <translation>Der unvollständige Drucker wurde wieder entfernt.</translation>
+    </message>
+    <message>
+        <source>It is now your default printer.</source>
+        <translation>Er ist jetzt Ihr Standarddrucker.</translation>
+    </message>
+    <message>
+        <source>It could not be made your default printer.</source>
+        <translation>Er konnte nicht zu Ihrem Standarddrucker gemacht werden.</translation>
+    </message>
+    <message>
+        <source>Its paper size could not be set to %1; choose it in the driver options.</source>
+        <translation>Sein Papierformat konnte nicht auf %1 gesetzt werden; wählen Sie es in den Treiberoptionen.</translation>
+    </message>
+    <message>
+        <source>The printing service could not list the drivers: %1</source>
+        <translation>Der Druckdienst konnte die Treiber nicht auflisten: %1</translation>
+    </message>
+    <message>
+        <source>The printing service does not answer</source>
+        <translation>Der Druckdienst antwortet nicht</translation>
+    </message>
+    <message>
         <source>Printer &apos;%s&apos; already exists! Choose another name.</source>
         <translation>Der Drucker „%s“ ist bereits vorhanden. Bitte wählen Sie einen anderen Namen.</translation>
     </message>
@@ -46,6 +80,18 @@
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
+    <message>
+        <source>The printing service does not answer</source>
+        <translation>Der Druckdienst antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Fetch the printer models again</source>
+        <translation>Druckermodelle erneut abrufen</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Erneut versuchen</translation>
+    </message>
     <message>
         <source>Add Printer</source>
         <translation>Drucker hinzufügen</translation>
@@ -255,8 +301,8 @@
         <translation>Der Drucker ist betriebsbereit.</translation>
     </message>
     <message>
-        <source>&lt;p&gt;The printer &lt;b&gt;%1&lt;/b&gt; has been added and is now your default printer.&lt;/p&gt;&lt;p&gt;Model: %2&lt;br&gt;Port: %3&lt;/p&gt;&lt;p&gt;Print a test page to check that everything works, or adjust the driver options. Click &lt;b&gt;Finish&lt;/b&gt; to close the wizard.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;Der Drucker &lt;b&gt;%1&lt;/b&gt; wurde hinzugefügt und ist jetzt Ihr Standarddrucker.&lt;/p&gt;&lt;p&gt;Modell: %2&lt;br&gt;Anschluss: %3&lt;/p&gt;&lt;p&gt;Drucken Sie eine Testseite, um zu prüfen, ob alles funktioniert, oder passen Sie die Treiberoptionen an. Klicken Sie auf &lt;b&gt;Abschließen&lt;/b&gt;, um den Assistenten zu schließen.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;The printer &lt;b&gt;%1&lt;/b&gt; has been added.&lt;/p&gt;%4&lt;p&gt;Model: %2&lt;br&gt;Port: %3&lt;/p&gt;&lt;p&gt;Print a test page to check that everything works, or adjust the driver options. Click &lt;b&gt;Finish&lt;/b&gt; to close the wizard.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Der Drucker &lt;b&gt;%1&lt;/b&gt; wurde hinzugefügt.&lt;/p&gt;%4&lt;p&gt;Modell: %2&lt;br&gt;Anschluss: %3&lt;/p&gt;&lt;p&gt;Drucken Sie eine Testseite, um zu prüfen, ob alles funktioniert, oder passen Sie die Treiberoptionen an. Klicken Sie auf &lt;b&gt;Abschließen&lt;/b&gt;, um den Assistenten zu schließen.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -338,6 +384,10 @@ Verwenden Sie diese Adresse:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 darf die Drucker dieses Computers nicht ändern. Name und Passwort eines Administrators:</translation>
+    </message>
+    <message>
+        <source>The printing service at %1 does not answer</source>
+        <translation>Der Druckdienst unter %1 antwortet nicht</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,40 @@
 <context>
     <name>AddPrinterWizard</name>
     <message>
+        <source>The wizard can&apos;t start: its form file is damaged.
+%1</source>
+        <translation>El asistente no puede iniciarse: su archivo de formulario está dañado.
+%1</translation>
+    </message>
+    <message>
+        <source>Can&apos;t check whether the name is free: %1. Try again.</source>
+        <translation>No se puede comprobar si el nombre está libre: %1. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The incomplete printer was removed again.</source>
+        <translation>Se ha eliminado la impresora incompleta.</translation>
+    </message>
+    <message>
+        <source>It is now your default printer.</source>
+        <translation>Ahora es su impresora predeterminada.</translation>
+    </message>
+    <message>
+        <source>It could not be made your default printer.</source>
+        <translation>No se ha podido convertir en su impresora predeterminada.</translation>
+    </message>
+    <message>
+        <source>Its paper size could not be set to %1; choose it in the driver options.</source>
+        <translation>No se ha podido ajustar su tamaño de papel a %1; elíjalo en las opciones del controlador.</translation>
+    </message>
+    <message>
+        <source>The printing service could not list the drivers: %1</source>
+        <translation>El servicio de impresión no ha podido listar los controladores: %1</translation>
+    </message>
+    <message>
+        <source>The printing service does not answer</source>
+        <translation>El servicio de impresión no responde</translation>
+    </message>
+    <message>
         <source>Printer &apos;%s&apos; already exists! Choose another name.</source>
         <translation>La impresora «%s» ya existe. Elija otro nombre.</translation>
     </message>
@@ -46,6 +80,18 @@
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
+    <message>
+        <source>The printing service does not answer</source>
+        <translation>El servicio de impresión no responde</translation>
+    </message>
+    <message>
+        <source>Fetch the printer models again</source>
+        <translation>Obtener de nuevo los modelos de impresora</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
     <message>
         <source>Add Printer</source>
         <translation>Añadir impresora</translation>
@@ -255,8 +301,8 @@
         <translation>La impresora está lista para usarse.</translation>
     </message>
     <message>
-        <source>&lt;p&gt;The printer &lt;b&gt;%1&lt;/b&gt; has been added and is now your default printer.&lt;/p&gt;&lt;p&gt;Model: %2&lt;br&gt;Port: %3&lt;/p&gt;&lt;p&gt;Print a test page to check that everything works, or adjust the driver options. Click &lt;b&gt;Finish&lt;/b&gt; to close the wizard.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;La impresora &lt;b&gt;%1&lt;/b&gt; se ha añadido y ahora es su impresora predeterminada.&lt;/p&gt;&lt;p&gt;Modelo: %2&lt;br&gt;Puerto: %3&lt;/p&gt;&lt;p&gt;Imprima una página de prueba para comprobar que todo funciona, o ajuste las opciones del controlador. Pulse &lt;b&gt;Finalizar&lt;/b&gt; para cerrar el asistente.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;The printer &lt;b&gt;%1&lt;/b&gt; has been added.&lt;/p&gt;%4&lt;p&gt;Model: %2&lt;br&gt;Port: %3&lt;/p&gt;&lt;p&gt;Print a test page to check that everything works, or adjust the driver options. Click &lt;b&gt;Finish&lt;/b&gt; to close the wizard.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;La impresora &lt;b&gt;%1&lt;/b&gt; se ha añadido.&lt;/p&gt;%4&lt;p&gt;Modelo: %2&lt;br&gt;Puerto: %3&lt;/p&gt;&lt;p&gt;Imprima una página de prueba para comprobar que todo funciona, o ajuste las opciones del controlador. Pulse &lt;b&gt;Finalizar&lt;/b&gt; para cerrar el asistente.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -338,6 +384,10 @@ Use esta dirección:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 no puede cambiar las impresoras de este equipo. Nombre y contraseña de un administrador:</translation>
+    </message>
+    <message>
+        <source>The printing service at %1 does not answer</source>
+        <translation>El servicio de impresión en %1 no responde</translation>
     </message>
 </context>
 <context>

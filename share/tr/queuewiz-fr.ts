@@ -4,6 +4,40 @@
 <context>
     <name>AddPrinterWizard</name>
     <message>
+        <source>The wizard can&apos;t start: its form file is damaged.
+%1</source>
+        <translation>L&apos;assistant ne peut pas démarrer&#xa0;: son fichier de formulaire est endommagé.
+%1</translation>
+    </message>
+    <message>
+        <source>Can&apos;t check whether the name is free: %1. Try again.</source>
+        <translation>Impossible de vérifier si le nom est libre&#xa0;: %1. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>The incomplete printer was removed again.</source>
+        <translation>L&apos;imprimante incomplète a été supprimée.</translation>
+    </message>
+    <message>
+        <source>It is now your default printer.</source>
+        <translation>C&apos;est maintenant votre imprimante par défaut.</translation>
+    </message>
+    <message>
+        <source>It could not be made your default printer.</source>
+        <translation>Elle n&apos;a pas pu devenir votre imprimante par défaut.</translation>
+    </message>
+    <message>
+        <source>Its paper size could not be set to %1; choose it in the driver options.</source>
+        <translation>Son format de papier n&apos;a pas pu être réglé sur %1&#xa0;; choisissez-le dans les options du pilote.</translation>
+    </message>
+    <message>
+        <source>The printing service could not list the drivers: %1</source>
+        <translation>Le service d&apos;impression n&apos;a pas pu lister les pilotes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The printing service does not answer</source>
+        <translation>Le service d&apos;impression ne répond pas</translation>
+    </message>
+    <message>
         <source>Printer &apos;%s&apos; already exists! Choose another name.</source>
         <translation>L&apos;imprimante «&#xa0;%s&#xa0;» existe déjà. Veuillez choisir un autre nom.</translation>
     </message>
@@ -46,6 +80,18 @@
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
+    <message>
+        <source>The printing service does not answer</source>
+        <translation>Le service d&apos;impression ne répond pas</translation>
+    </message>
+    <message>
+        <source>Fetch the printer models again</source>
+        <translation>Récupérer à nouveau les modèles d&apos;imprimante</translation>
+    </message>
+    <message>
+        <source>&amp;Retry</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
     <message>
         <source>Add Printer</source>
         <translation>Ajouter une imprimante</translation>
@@ -255,8 +301,8 @@
         <translation>L&apos;imprimante est prête à l&apos;emploi.</translation>
     </message>
     <message>
-        <source>&lt;p&gt;The printer &lt;b&gt;%1&lt;/b&gt; has been added and is now your default printer.&lt;/p&gt;&lt;p&gt;Model: %2&lt;br&gt;Port: %3&lt;/p&gt;&lt;p&gt;Print a test page to check that everything works, or adjust the driver options. Click &lt;b&gt;Finish&lt;/b&gt; to close the wizard.&lt;/p&gt;</source>
-        <translation>&lt;p&gt;L&apos;imprimante &lt;b&gt;%1&lt;/b&gt; a été ajoutée et est maintenant votre imprimante par défaut.&lt;/p&gt;&lt;p&gt;Modèle&#xa0;: %2&lt;br&gt;Port&#xa0;: %3&lt;/p&gt;&lt;p&gt;Imprimez une page de test pour vérifier que tout fonctionne, ou réglez les options du pilote. Cliquez sur &lt;b&gt;Terminer&lt;/b&gt; pour fermer l&apos;assistant.&lt;/p&gt;</translation>
+        <source>&lt;p&gt;The printer &lt;b&gt;%1&lt;/b&gt; has been added.&lt;/p&gt;%4&lt;p&gt;Model: %2&lt;br&gt;Port: %3&lt;/p&gt;&lt;p&gt;Print a test page to check that everything works, or adjust the driver options. Click &lt;b&gt;Finish&lt;/b&gt; to close the wizard.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;L&apos;imprimante &lt;b&gt;%1&lt;/b&gt; a été ajoutée.&lt;/p&gt;%4&lt;p&gt;Modèle&#xa0;: %2&lt;br&gt;Port&#xa0;: %3&lt;/p&gt;&lt;p&gt;Imprimez une page de test pour vérifier que tout fonctionne, ou réglez les options du pilote. Cliquez sur &lt;b&gt;Terminer&lt;/b&gt; pour fermer l&apos;assistant.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -338,6 +384,10 @@ Utilisez cette adresse&#xa0;:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 n&apos;a pas le droit de modifier les imprimantes de cet ordinateur. Nom et mot de passe d&apos;un administrateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The printing service at %1 does not answer</source>
+        <translation>Le service d&apos;impression à l&apos;adresse %1 ne répond pas</translation>
     </message>
 </context>
 <context>

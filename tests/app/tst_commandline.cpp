@@ -120,17 +120,23 @@ private slots:
         QTest::addColumn<bool>("display");  // offscreen; else none at all
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("error");  // once on standard error
+        QTest::addColumn<QByteArray>("form"); // written to FORM unless empty
 
         // Without a display the usage still works and the wizard says what
         // it lacks instead of letting Qt abort.
-        QTest::newRow("-h, no display") << QStringList{ "-h" } << true << false << 0 << "";
-        QTest::newRow("--help with arguments, no OEM.ini") << QStringList{ "--help", "a" } << false << true << 0 << "";
+        QTest::newRow("-h, no display") << QStringList{ "-h" } << true << false << 0 << "" << QByteArray();
+        QTest::newRow("--help with arguments, no OEM.ini") << QStringList{ "--help", "a" } << false << true << 0 << "" << QByteArray();
         QTest::newRow("--help --bogus, no display") << QStringList{ "--help", "--bogus" } << true << false << 255
-                                                    << "unrecognized option '--bogus'";
+                                                    << "unrecognized option '--bogus'" << QByteArray();
         QTest::newRow("wizard, no display") << QStringList{} << true << false << 1
-                                            << "queuewiz: there is no display to show the wizard on";
+                                            << "queuewiz: there is no display to show the wizard on" << QByteArray();
         // The loader's own messages: tst_uiloader.
-        QTest::newRow("missing form") << QStringList{ "--ui=FORM" } << true << true << 254 << "Failed to load widget from <";
+        QTest::newRow("missing form") << QStringList{ "--ui=FORM" } << true << true << 254 << "Failed to load widget from <" << QByteArray();
+        QFile wizard(TestPaths::sourceDir() + "/ui/AddPrinterWizardBase.ui");
+        QVERIFY(wizard.open(QIODevice::ReadOnly));
+        const QByteArray half = wizard.readAll().left(wizard.size() / 2);
+        QTest::newRow("form cut in half") << QStringList{ "--ui=FORM" } << true << true << 254
+                                          << "FORM: line " + QString::number(half.count('\n') + 1) << half;
     }
 
     // The program from a package tree of its own: it finds OEM.ini beside
@@ -142,12 +148,16 @@ private slots:
         QFETCH(bool, display);
         QFETCH(int, status);
         QFETCH(QString, error);
+        QFETCH(QByteArray, form);
 
         QTemporaryDir pkg;
         QVERIFY(QDir().mkpath(pkg.filePath("bin")));
         QVERIFY(QFile::link(TestPaths::binaryDir() + "/app/queuewiz", pkg.filePath("bin/queuewiz")));
         QVERIFY(!configured || TestSupport::writeFile(pkg.filePath("share/OEM.ini"), "VENDOR=Acme\n"));
-        words.replaceInStrings("FORM", pkg.filePath("form.ui"));
+        const QString formPath = pkg.filePath("form.ui");
+        QVERIFY(form.isEmpty() || TestSupport::writeFile(formPath, form));
+        words.replaceInStrings("FORM", formPath);
+        error.replace("FORM", formPath);
 
         QStringList unset{ "DISPLAY", "WAYLAND_DISPLAY" };
         if (!display)

@@ -113,6 +113,9 @@ private slots:
         QTest::newRow("root before cwd") << QStringList{ "root", "cwd" } << 0 << "root";
         QTest::newRow("current directory last") << QStringList{ "cwd" } << 0 << "cwd";
         QTest::newRow("none") << QStringList{} << -1 << "";
+        QTest::newRow("directory skipped") << QStringList{ "share:dir", "root" } << 0 << "root";
+        QTest::newRow("binary skipped") << QStringList{ "share:binary", "cwd" } << 0 << "cwd";
+        QTest::newRow("only unusable ones") << QStringList{ "root:dir", "cwd:binary" } << -1 << "";
     }
 
     void locations()
@@ -125,8 +128,14 @@ private slots:
             { "root", m_pkg + "/OEM.ini" },
             { "cwd", m_tmp.path() + "/OEM.ini" },
         };
-        for (const QString &p : present)
-            QVERIFY(TestSupport::writeFile(where[p], "VENDOR=" + p.toLatin1() + "\n"));
+        for (const QString &p : present) {
+            const QString path = where[p.section(':', 0, 0)];
+            if (p.endsWith(":dir"))
+                QVERIFY(QDir().mkpath(path));
+            else
+                QVERIFY(TestSupport::writeFile(path, (p.endsWith(":binary") ? QByteArray("\x7f" "ELF\x02\x01\0\0", 8) : QByteArray())
+                                    + "VENDOR=" + p.toLatin1() + "\n"));
+        }
 
         QCOMPARE(readFromPackage(), result);
         QCOMPARE(QString::fromLatin1(actx.vendor), vendor);

@@ -1,6 +1,7 @@
 #include "AddPrinterWizard.h"
 #include "cupsmanager.h"
 #include "cupssandbox.h"
+#include "ippfaultproxy.h"
 #include "loopbackprinter.h"
 #include "papersize.h"
 #include "ppddialog.h"
@@ -16,6 +17,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QtTest>
+
+#include <signal.h>
 
 using W = AddPrinterWizard;
 
@@ -93,6 +96,12 @@ private slots:
 
     void cleanup()
     {
+        // A failed row may leave the scheduler stopped or the client at a
+        // proxy that is gone.
+        if (const qint64 pid = schedulerPid())
+            ::kill(pid, SIGCONT);
+        if (!m_sandbox.server().isEmpty())
+            m_sandbox.use();
         PrinterCreator::m_LpadminProgram = QStringLiteral("lpadmin");
         qunsetenv("LC_PAPER");
     }
@@ -144,20 +153,25 @@ private slots:
         QTest::addColumn<QByteArray>("locale");
         QTest::addColumn<QString>("driver");
         QTest::addColumn<QString>("paper");
+        QTest::addColumn<QString>("faults");  // as for refused()
 
-        QTest::newRow("Letter country, A4 driver") << QByteArray("es_MX.UTF-8") << ColorLaser << "Letter";
-        QTest::newRow("A4 country, Letter driver") << QByteArray("de_DE.UTF-8") << Laser << "A4";
-        QTest::newRow("A4 country, A4 driver") << QByteArray("de_DE.UTF-8") << ColorLaser << "A4";
+        QTest::newRow("Letter country, A4 driver") << QByteArray("es_MX.UTF-8") << ColorLaser << "Letter" << "";
+        QTest::newRow("A4 country, Letter driver") << QByteArray("de_DE.UTF-8") << Laser << "A4" << "";
+        QTest::newRow("A4 country, A4 driver") << QByteArray("de_DE.UTF-8") << ColorLaser << "A4" << "";
+        // lpadmin's upload is the fourth CUPS-Add-Modify-Printer.
+        QTest::newRow("paper and default refused")
+            << QByteArray("es_MX.UTF-8") << ColorLaser << "Letter" << "16387 4 F 1280;16394 1 F 1025";
     }
 
     // lpadmin runs only when the driver's default is not the country's
     // paper, and reaches the scheduler the wizard uses even when the
-    // environment names none.
+    // environment names none. The finish page says what did not take effect.
     void paperSize()
     {
         QFETCH(QByteArray, locale);
         QFETCH(QString, driver);
         QFETCH(QString, paper);
+        QFETCH(QString, faults);
 
         // The scheduler may give a new queue its own paper size rather than
         // the driver's: a queue made the way the wizard makes it tells.
@@ -180,69 +194,148 @@ private slots:
         qputenv("LC_PAPER", locale);
         QCOMPARE(QString::fromLatin1(defaultPaperSize()), paper);
         qunsetenv("CUPS_SERVER");
+        IppFaultProxy proxy(m_sandbox.port());
+        QVERIFY(useProxy(proxy, faults));
         const QString name = unique("paper") + QString::number(++m_queues);
         const bool created = create(f, "127.0.0.1:9", driver, name);
         m_sandbox.use();
         QVERIFY(created);
+        const QString summary = f.child<QLabel>("FinishText")->text();
+        QCOMPARE(summary.contains("It is now your default printer."), faults.isEmpty());
+        QCOMPARE(summary.contains("Its paper size could not be set to " + paper), !faults.isEmpty());
+        QCOMPARE(CUPSManager::m_CUPSManagerInstance.defaultPrinterName() == name, faults.isEmpty());
 
         QFile recorded(log);
         const QByteArray calls = recorded.open(QIODevice::ReadOnly) ? recorded.readAll() : QByteArray();
         QCOMPARE(QString::fromUtf8(calls), driverDefault == paper ? QString()
                                            : QStringLiteral("-p %1 -o PageSize=%2 -o PageRegion=%2\n").arg(name, paper));
-        QCOMPARE(defaultChoice(name, "PageSize"), paper);
+        QCOMPARE(defaultChoice(name, "PageSize"), faults.isEmpty() ? paper : driverDefault);
     }
 
     void refused_data()
     {
-        QTest::addColumn<QString>("existing");  // empty: the scheduler is stopped
+        QTest::addColumn<QString>("existing");
         QTest::addColumn<QString>("ppd");
         QTest::addColumn<QString>("typed");
+        // "kill", or proxy rules "OPERATION NTH ACTION [STATUS]", separated by
+        // ";": the nth request of that operation fails with STATUS (F) or
+        // finds the scheduler stopped (P).
+        QTest::addColumn<QString>("fault");
+        QTest::addColumn<QString>("message");
 
-        QTest::newRow("same name") << unique("same") << "acme-laser1610.ppd" << unique("same");
-        QTest::newRow("letter case aside") << unique("Case") << "acme-laser1610.ppd" << unique("cASE");
-        QTest::newRow("another vendor's driver") << unique("globex") << "globex-pagewriter40.ppd" << unique("globex");
-        QTest::newRow("scheduler away") << "" << "" << unique("retry");
+        const QString inUse = QStringLiteral("Printer '%1' already exists! Choose another name.");
+        const QString notAdded = QStringLiteral("Can't add printer!");
+        QTest::newRow("same name") << unique("same") << "acme-laser1610.ppd" << unique("same") << "" << inUse;
+        QTest::newRow("letter case aside") << unique("Case") << "acme-laser1610.ppd" << unique("cASE") << "" << inUse;
+        QTest::newRow("another vendor's driver")
+            << unique("globex") << "globex-pagewriter40.ppd" << unique("globex") << "" << inUse;
+        QTest::newRow("name check answered busy")
+            << unique("lab") << "acme-laser1610.ppd" << unique("lab") << "16386 1 F 1287"
+            << "Can't check whether the name is free: IPP_PRINTER_BUSY - Printer busy. Try again.";
+        QTest::newRow("scheduler killed") << "" << "" << unique("killed") << "kill"
+                                          << "Can't check whether the name is free: The printing service at %1 "
+                                             "does not answer. Try again.";
+        QTest::newRow("driver refused") << "" << "" << unique("driver") << "16387 3 F 1280" << notAdded;
+        QTest::newRow("scheduler stopped") << "" << "" << unique("stopped") << "16387 2 P" << notAdded;
     }
 
-    // The name page stays; an existing queue is left as it was, and with
-    // the scheduler back the same page goes on.
+    // The name page stays and nothing is overwritten; once the scheduler
+    // is back the same page goes on, with no queue half-made.
     void refused()
     {
         QFETCH(QString, existing);
         QFETCH(QString, ppd);
         QFETCH(QString, typed);
+        QFETCH(QString, fault);
+        QFETCH(QString, message);
 
         CUPSPrinter before;
+        QByteArray ppdBefore;
         if (!existing.isEmpty()) {
-            QCOMPARE(CupsSandbox::run({ "lpadmin", "-p", existing, "-E", "-v", "socket://127.0.0.1:9", "-m", ppd }), 0);
+            QCOMPARE(CupsSandbox::run({ "lpadmin", "-p", existing, "-E", "-v", "socket://127.0.0.1:9", "-m", ppd,
+                                        "-L", "Lab", "-D", "Old" }), 0);
             QVERIFY(CUPSManager::m_CUPSManagerInstance.findPrinter(existing, before));
+            ppdBefore = queuePPD(existing);
         }
+        const QString defaultBefore = CUPSManager::m_CUPSManagerInstance.defaultPrinterName();
+        IppFaultProxy proxy(m_sandbox.port());
+        QVERIFY(fault == "kill" || useProxy(proxy, fault));
         WizardFixture f;
         QVERIFY(toNamePage(f, "127.0.0.1:9100", ColorLaser, typed));
-        QVERIFY(!existing.isEmpty() || m_sandbox.stop());
+        const QString server = m_sandbox.server();
+        if (fault == "kill")
+            QVERIFY(schedulerPid() > 0 && ::kill(schedulerPid(), SIGKILL) == 0 && QTest::qWaitFor([this] { return !m_sandbox.isRunning(); }));
         QString seen;
-        WizardFixture::answerMessageBox("OK", &seen);
+        WizardFixture::answerMessageBox("OK", &seen, 20000);
+        QElapsedTimer waited;
+        waited.start();
         QVERIFY(f.click(QWizard::NextButton));
-        QCOMPARE(seen, existing.isEmpty()
-                           ? QStringLiteral("Error!|Can't add printer!")
-                           : QStringLiteral("Error!|Printer '%1' already exists! Choose another name.").arg(typed));
+        // A hang bound, not a speed measure: one answer timeout and a bit.
+        QVERIFY2(waited.elapsed() < 15000, qPrintable(QString::number(waited.elapsed())));
+        QCOMPARE(seen, "Error!|" + (message.contains("%1") ? message.arg(existing.isEmpty() ? server : typed) : message));
         QCOMPARE(f.wizard()->currentId(), int(W::NamePage));
+        QVERIFY(!proxy.operations().contains(IPP_OP_CUPS_ADD_MODIFY_PRINTER) || existing.isEmpty());
 
         CUPSPrinter after;
-        if (existing.isEmpty()) {
-            QString error;
-            QVERIFY2(m_sandbox.start(&error), qPrintable(error));
-            m_sandbox.use();
-            QVERIFY(f.click(QWizard::NextButton));
-            QCOMPARE(f.wizard()->currentId(), int(W::FinishPage));
-            QVERIFY(CUPSManager::m_CUPSManagerInstance.findPrinter(typed, after));
-            QCOMPARE(after.DeviceURI(), QStringLiteral("socket://127.0.0.1:9100"));
-        } else {
-            QCOMPARE(f.wizard()->focusWidget(), f.child<QLineEdit>("NameEdit"));
+        if (!existing.isEmpty()) {
+            if (fault.isEmpty())
+                QCOMPARE(f.wizard()->focusWidget(), f.child<QLineEdit>("NameEdit"));
             QVERIFY(CUPSManager::m_CUPSManagerInstance.findPrinter(existing, after));
             QCOMPARE(after.DeviceURI(), before.DeviceURI());
             QCOMPARE(after.ModelInfo(), before.ModelInfo());
+            QCOMPARE(after.Location(), before.Location());
+            QCOMPARE(after.Info(), before.Info());
+            QCOMPARE(queuePPD(existing), ppdBefore);
+            QCOMPARE(CUPSManager::m_CUPSManagerInstance.defaultPrinterName(), defaultBefore);
+            return;
         }
+        if (fault == "kill") {
+            QString error;
+            qputenv("CUPS_SANDBOX_PORT", QByteArray::number(m_sandbox.port()));
+            const bool restarted = m_sandbox.start(&error);
+            qunsetenv("CUPS_SANDBOX_PORT");
+            QVERIFY2(restarted && m_sandbox.server() == server, qPrintable(error));
+        } else {
+            ::kill(schedulerPid(), SIGCONT);
+            // What the failure left must not be there, whatever the
+            // scheduler still does with the request it had taken.
+            QVERIFY(fault.endsWith('P') || !CUPSManager::m_CUPSManagerInstance.findPrinter(typed, after));
+        }
+        QVERIFY(f.click(QWizard::NextButton));
+        QCOMPARE(f.wizard()->currentId(), int(W::FinishPage));
+        QVERIFY(CUPSManager::m_CUPSManagerInstance.findPrinter(typed, after));
+        QCOMPARE(after.DeviceURI(), QStringLiteral("socket://127.0.0.1:9100"));
+        QCOMPARE(after.ModelInfo(), QStringLiteral("Acme ColorLaser 2550"));
+    }
+
+    // With a scheduler that takes connections but never answers, the
+    // window still comes up in time; the driver page says why its list is
+    // empty until Retry fills it.
+    void driversWithoutScheduler()
+    {
+        QVERIFY(schedulerPid() > 0 && ::kill(schedulerPid(), SIGSTOP) == 0);
+        WizardFixture f;
+        QElapsedTimer waited;
+        waited.start();
+        QVERIFY(f.load());
+        QVERIFY2(waited.elapsed() < 14000, qPrintable(QString::number(waited.elapsed())));
+        QVERIFY(f.toPortsPage());
+        QLineEdit *editor = f.renamePort(QStringLiteral("socket://"));
+        QVERIFY(editor);
+        QTest::keyClicks(editor, "127.0.0.1:9100");
+        QTest::keyClick(editor, Qt::Key_Return);
+        QVERIFY(f.click(QWizard::NextButton));
+        auto *list = f.child<QListWidget>("DriversList");
+        auto *problem = f.child<QLabel>("DriversProblemLabel");
+        QCOMPARE(list->count(), 0);
+        QVERIFY(problem->isVisible() && !f.nextEnabled());
+        QCOMPARE(problem->text(), QStringLiteral("The printing service does not answer"));
+
+        ::kill(schedulerPid(), SIGCONT);
+        QTest::mouseClick(f.child<QPushButton>("RetryDriversButton"), Qt::LeftButton);
+        QVERIFY(WizardFixture::texts(list->model()).contains(Laser));
+        QVERIFY(!problem->isVisible());
+        QVERIFY(f.toNamePage(Laser));
     }
 
     void testPageResult_data()
@@ -313,6 +406,37 @@ private slots:
     }
 
 private:
+    // Points the client at proxy, which applies the rules of faults; none
+    // leaves the client at the scheduler.
+    bool useProxy(IppFaultProxy &proxy, const QString &faults) const
+    {
+        if (faults.isEmpty())
+            return true;
+        if (!proxy.start())
+            return false;
+        cupsSetServer(proxy.server().toUtf8().constData());
+        for (const QString &rule : faults.split(';')) {
+            const QStringList word = rule.split(' ');
+            const bool fail = word.value(2) == "F";
+            proxy.fault(word.value(0).toInt(), word.value(1).toInt(),
+                        fail ? IppFaultProxy::Fail : IppFaultProxy::StopScheduler,
+                        fail ? word.value(3).toInt() : int(schedulerPid()));
+        }
+        return true;
+    }
+
+    qint64 schedulerPid() const
+    {
+        QFile file(m_sandbox.directory() + "/cupsd.pid");
+        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toLongLong() : 0;
+    }
+
+    QByteArray queuePPD(const QString &name) const
+    {
+        QFile file(m_sandbox.directory() + "/etc/ppd/" + name + ".ppd");
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
     CupsSandbox m_sandbox;
     int m_queues = 0;
 };
