@@ -1,6 +1,7 @@
 #include "startup.h"
 
 #include "commandlineoptions.h"
+#include "cupsmanager.h"
 #include "ipplog.h"
 #include "oemconfig.h"
 #include "qtsingleapplication.h"
@@ -155,6 +156,8 @@ int queuewizMain(int argc, char **argv)
     // This process is the instance: its logs start now, before its first
     // request. A start that only woke another one has touched none.
     IPPLog::openAll(IPPLog::defaultDirectory());
+    // The scheduler lists the drivers while the forms load.
+    CUPSManager::m_CUPSManagerInstance.sendDriverRequest();
 
     QFont::insertSubstitution(QStringLiteral("Helvetica"), QStringLiteral("Adobe Helvetica"));
 

@@ -1,0 +1,59 @@
+#include "earlydriverrequest.h"
+
+#include "ipplog.h"
+
+#include <sys/socket.h>
+
+namespace {
+
+// A scheduler that is not there right away is left to the ordinary request
+// and its retries.
+constexpr int ConnectTimeoutMs = 1000;
+constexpr double AnswerTimeoutSeconds = 120.0;
+
+const char *noPassword(const char *, http_t *, const char *, const char *, void *)
+{
+    return nullptr;
+}
+
+// The password dialog must not show before the window: while the early
+// request is on the wire, a scheduler that asks for one is refused.
+struct NoPasswordPrompt
+{
+    NoPasswordPrompt() { cupsSetPasswordCB2(noPassword, nullptr); }
+    ~NoPasswordPrompt() { cupsSetPasswordCB(&IPPRequest::passwordCallback); }
+};
+
+} // namespace
+
+EarlyDriverRequest::EarlyDriverRequest(const QString &vendorFilter)
+    : m_filter(vendorFilter)
+    , m_make(vendorFilter.toUtf8())
+    , m_request(vendorFilter.isEmpty() ? nullptr : m_make.constData())
+{
+    m_connection.reset(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                    ConnectTimeoutMs, nullptr));
+    if (!m_connection || !m_request.request())
+        return;
+    httpSetTimeout(m_connection.get(), AnswerTimeoutSeconds, nullptr, nullptr);
+    const NoPasswordPrompt quiet;
+    m_sent = cupsSendRequest(m_connection.get(), m_request.request(), "/", 0) == HTTP_STATUS_CONTINUE;
+}
+
+IppPtr EarlyDriverRequest::takeAnswer()
+{
+    if (!m_sent)
+        return IppPtr();
+    m_sent = false;
+    IppPtr answer;
+    {
+        const NoPasswordPrompt quiet;
+        answer.reset(cupsGetResponse(m_connection.get(), "/"));
+    }
+    if (!answer || ippGetStatusCode(answer.get()) != IPP_STATUS_OK)
+        return IppPtr();
+    IPPLog::line(IPPLog::Request, "Requesting operation 0x%x...", static_cast<unsigned>(m_request.operation()));
+    IPPLog::line(IPPLog::Request, "Result status: %s\n", IPPRequest::statusText(IPP_STATUS_OK).toLocal8Bit().constData());
+    IPPLog::flush(IPPLog::Request);
+    return answer;
+}
