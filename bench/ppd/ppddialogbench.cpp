@@ -280,7 +280,9 @@ int main(int argc, char **argv)
         QFile::link(system.filePath(program), sandbox.directory() + QStringLiteral("/lib/driver/") + program);
 
     const QString large = programs.isEmpty() ? QString() : largestSystemQueue(requested);
-    if (large.isEmpty())
+    if (large.isEmpty() && !requested.isEmpty())
+        printf("(a) skipped: the catalogue has no driver %s\n", qPrintable(requested));
+    else if (large.isEmpty())
         printf("(a) skipped: the system's driver set has no large-format models (install e.g. "
                "printer-driver-gutenprint)\n");
     else if (!measure("(a) largest system PPD", large))
