@@ -1,6 +1,8 @@
 #include "startup.h"
 
 #include "commandlineoptions.h"
+#include "cupsmanager.h"
+#include "ipplog.h"
 #include "oemconfig.h"
 #include "qtsingleapplication.h"
 #include "queuewizuiloader.h"
@@ -11,13 +13,17 @@
 #include <QDir>
 #include <QFont>
 #include <QLayout>
+#include <QLibraryInfo>
 #include <QMessageBox>
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
+#include <xcb/xcb.h>
 
 namespace {
 
@@ -46,10 +52,55 @@ QByteArray programPath(const char *argv0)
     return QByteArray(exe, static_cast<int>(n));
 }
 
-bool haveDisplay()
+bool xDisplayAnswers()
 {
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
-        || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    if (qEnvironmentVariableIsEmpty("DISPLAY"))
+        return false;
+    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
+    const bool answers = !xcb_connection_has_error(connection);
+    xcb_disconnect(connection);
+    return answers;
+}
+
+// A Wayland compositor listens on $XDG_RUNTIME_DIR/$WAYLAND_DISPLAY (or on
+// an absolute path); Qt also needs its Wayland plug-in for it.
+bool waylandAnswers()
+{
+    const QByteArray name = qgetenv("WAYLAND_DISPLAY");
+    if (name.isEmpty())
+        return false;
+    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
+    if (plugins.entryList({QStringLiteral("libqwayland*.so")}, QDir::Files).isEmpty())
+        return false;
+    const QByteArray path = name.startsWith('/') ? name : qgetenv("XDG_RUNTIME_DIR") + '/' + name;
+    sockaddr_un address = {};
+    address.sun_family = AF_UNIX;
+    if (size_t(path.size()) >= sizeof address.sun_path)
+        return false;
+    memcpy(address.sun_path, path.constData(), size_t(path.size()));
+    const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const bool answers = fd >= 0 && ::connect(fd, reinterpret_cast<sockaddr *>(&address), sizeof address) == 0;
+    if (fd >= 0)
+        ::close(fd);
+    return answers;
+}
+
+// Qt aborts when the platform it picks can't start (a DISPLAY that does not
+// answer, a Wayland session without the plug-in). Pick one that works here,
+// or none; a platform the user chose is left to Qt.
+enum class Platform { Chosen, Told, Missing };
+Platform choosePlatform()
+{
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return Platform::Chosen;
+    const bool x = xDisplayAnswers();
+    const bool wayland = waylandAnswers();
+    if (x && wayland)
+        return Platform::Chosen;
+    if (!x && !wayland)
+        return Platform::Missing;
+    qputenv("QT_QPA_PLATFORM", x ? "xcb" : "wayland");
+    return Platform::Told;
 }
 
 // Without a display Qt can't start at all. Asking for the usage (or
@@ -57,8 +108,6 @@ bool haveDisplay()
 // wizard itself needs a window, so say so rather than let Qt abort.
 bool prepareForNoDisplay(int argc, char **argv)
 {
-    if (haveDisplay())
-        return true;
     const int keptOpterr = opterr;
     opterr = 0; // the real parse below reports the errors
     const CommandLineOptions early(argc, argv, kShortOptions, kLongOptions);
@@ -67,8 +116,11 @@ bool prepareForNoDisplay(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
         return true;
     }
-    fprintf(stderr, "queuewiz: there is no display to show the wizard on (DISPLAY is not set).\n"
-                    "Start it from a desktop session.\n");
+    fprintf(stderr, "queuewiz: there is no display to show the wizard on (%s).\n"
+                    "Start it from a desktop session.\n",
+            qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+                ? "DISPLAY is not set"
+                : "the display named by DISPLAY or WAYLAND_DISPLAY does not answer");
     return false;
 }
 
@@ -94,9 +146,13 @@ int queuewizMain(int argc, char **argv)
         fflush(stdout);
     }
 
-    if (!prepareForNoDisplay(argc, argv))
+    const Platform platform = choosePlatform();
+    if (platform == Platform::Missing && !prepareForNoDisplay(argc, argv))
         return 1;
     QtSingleApplication app(QStringLiteral("AddPrinterWizard_SingleApplication"), argc, argv);
+    // The browser and the test page must not inherit our choice.
+    if (platform == Platform::Told)
+        qunsetenv("QT_QPA_PLATFORM");
     // Another instance of this user on this display takes over: wake it and go.
     if (app.sendMessage(QStringLiteral("Wake up!!!"), 5000))
         return 0;
@@ -110,6 +166,12 @@ int queuewizMain(int argc, char **argv)
         printUsage();
         return options.contains(QStringLiteral("-")) ? -1 : 0;
     }
+
+    // This process is the instance: its logs start now, before its first
+    // request. A start that only woke another one has touched none.
+    IPPLog::openAll(IPPLog::defaultDirectory());
+    // The scheduler lists the drivers while the forms load.
+    CUPSManager::m_CUPSManagerInstance.sendDriverRequest();
 
     QFont::insertSubstitution(QStringLiteral("Helvetica"), QStringLiteral("Adobe Helvetica"));
 

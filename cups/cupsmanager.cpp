@@ -2,6 +2,7 @@
 
 #include "cupsptr.h"
 #include "destlist.h"
+#include "earlydriverrequest.h"
 #include "ipplog.h"
 #include "ipprequest.h"
 #include "requests.h"
@@ -20,7 +21,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <fcntl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -76,6 +76,12 @@ bool isSchedulerAttribute(const char *name)
 {
     return !strncmp(name, "printer-", 8) || !strncmp(name, "marker-", 7) || !strcmp(name, "device-uri")
         || !strcmp(name, "auth-info-required");
+}
+
+// The filter for the package's own queues and drivers.
+QString packageVendor()
+{
+    return QString::asprintf("%s", actx.vendorUpper);
 }
 
 // The display key for a driver that shares its model with others.
@@ -136,53 +142,13 @@ void forEachRecord(ipp_t *response, Take take)
 } // namespace
 
 CUPSManager::CUPSManager()
-    : CupsVersion(probeCupsVersion())
+    : CupsVersion(&CUPSManager::probeServerVersion)
 {
 }
 
 CUPSManager::~CUPSManager() = default;
 
 // --- Version probe -------------------------------------------------------
-
-int CUPSManager::probeCupsVersion()
-{
-    bool answered = false;
-    const int version = probePackageVersion(&answered);
-    return answered ? version : probeServerVersion();
-}
-
-int CUPSManager::probePackageVersion(bool *answered)
-{
-    *answered = false;
-    // The package tools complain on stderr about packages that don't exist;
-    // the child gets /dev/null there instead of our terminal.
-    const int savedStderr = dup(STDERR_FILENO);
-    const int devNull = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-    if (savedStderr >= 0 && devNull >= 0)
-        dup2(devNull, STDERR_FILENO);
-    FILE *pipe = popen("((which rpm >/dev/null && rpm -q cups) || (which dpkg >/dev/null && dpkg -p "
-                       "cupsys-common | grep -i \"version:\")) | awk -F. '{ print $2 }'",
-                       "r");
-    if (savedStderr >= 0 && devNull >= 0)
-        dup2(savedStderr, STDERR_FILENO);
-    if (savedStderr >= 0)
-        ::close(savedStderr);
-    if (devNull >= 0)
-        ::close(devNull);
-    if (!pipe)
-        return -1;
-
-    char text[16] = {};
-    const size_t n = fread(text, 1, 15, pipe);
-    const bool atEnd = feof(pipe);
-    pclose(pipe);
-    *answered = n > 0;
-    if (n == 0 || !atEnd)
-        return -1;
-    bool ok = false;
-    const int version = QString::fromLatin1(text, static_cast<int>(n)).trimmed().toInt(&ok, 10);
-    return ok ? version : -1;
-}
 
 int CUPSManager::probeServerVersion()
 {
@@ -386,17 +352,13 @@ bool CUPSManager::renamePrinter(const QString &oldName, const QString &newName, 
     if (renamed.IsDefault() && !setDefaultPrinter(printerUri(newName)))
         return false;
 
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-    const TempFile ppd(cupsGetPPD(oldName.toUtf8().constData()));
-#pragma GCC diagnostic pop
+    const QByteArray fetched = fetchPPD(oldName);
+    const TempFile ppd(fetched.isEmpty() ? nullptr : fetched.constData());
     if (ppd.isNull()) {
         // A queue without a driver (raw) has no file to carry over; any other
         // failure keeps the old queue, lest its driver be lost.
-        if (cupsLastError() != IPP_STATUS_ERROR_NOT_FOUND) {
-            LastStatus = cupsLastError();
+        if (LastStatus != IPP_STATUS_ERROR_NOT_FOUND)
             return false;
-        }
     } else if (!attachDriverFile(newName, ppd.path())) {
         return false;
     }
@@ -441,7 +403,7 @@ bool CUPSManager::listPrinters(QMap<QString, CUPSPrinter> &printers, const QStri
 
 bool CUPSManager::listVendorPrinters(QMap<QString, CUPSPrinter> &printers, int type, int mask)
 {
-    return fetchPrinters(printers, type, mask, QString::asprintf("%s", actx.vendorUpper));
+    return fetchPrinters(printers, type, mask, packageVendor());
 }
 
 bool CUPSManager::listClasses(QMap<QString, CUPSClass> &classes)
@@ -510,19 +472,34 @@ QByteArray CUPSManager::fetchPPD(const QString &queue)
 
 bool CUPSManager::listDrivers(QMap<QString, CUPSDriver> &drivers)
 {
-    return listDrivers(drivers, QString::asprintf("%s", actx.vendorUpper));
+    return listDrivers(drivers, packageVendor());
 }
 
 bool CUPSManager::listDrivers(QMap<QString, CUPSDriver> &drivers, const QString &vendorFilter)
 {
     drivers.clear();
+    IppPtr early;
+    bool stalled = false;
+    if (m_earlyDrivers && m_earlyDrivers->vendorFilter() == vendorFilter)
+        early = m_earlyDrivers->takeAnswer(&stalled);
+    m_earlyDrivers.reset();
+    if (stalled) {
+        LastStatus = 0;
+        m_lastError = IPPRequest::noAnswerText();
+        return false;
+    }
     // An empty filter keeps every driver, so the scheduler is not asked to
     // narrow the list either.
     const QByteArray make = vendorFilter.toUtf8();
     Requests::GetPPDs request(vendorFilter.isEmpty() ? nullptr : make.constData());
-    if (!send(request) || (LastStatus >= IPP_STATUS_ERROR_BAD_REQUEST && LastStatus != IPP_STATUS_ERROR_NOT_FOUND))
+    if (early) {
+        LastStatus = IPP_STATUS_OK;
+        m_lastError.clear();
+    } else if (!send(request)
+               || (LastStatus >= IPP_STATUS_ERROR_BAD_REQUEST && LastStatus != IPP_STATUS_ERROR_NOT_FOUND)) {
         return false;
-    ipp_t *response = request.response();
+    }
+    ipp_t *response = early ? early.get() : request.response();
     QSet<QString> sharedModels;
     CUPSDriver driver;
     auto finish = [&]() {
@@ -538,6 +515,11 @@ bool CUPSManager::listDrivers(QMap<QString, CUPSDriver> &drivers, const QString 
     finish();
     IPPLog::flush(IPPLog::Driver);
     return true;
+}
+
+void CUPSManager::sendDriverRequest()
+{
+    m_earlyDrivers = std::make_unique<EarlyDriverRequest>(packageVendor());
 }
 
 // --- Destination list ----------------------------------------------------

@@ -5,11 +5,15 @@
 #include "cupsdriver.h"
 #include "cupsjob.h"
 #include "cupsprinter.h"
+#include "cupsversionprobe.h"
 
 #include <QList>
 #include <QMap>
 #include <QString>
 
+#include <memory>
+
+class EarlyDriverRequest;
 class IPPRequest;
 
 // The one object through which the program works with the print system:
@@ -34,8 +38,8 @@ public:
     // IPP status code of the last answer; 0 when the last request got none.
     int LastStatus = 0;
     // Minor version of the installed CUPS (1 for 1.1.x, 4 for 2.4.x), -1
-    // when unknown.
-    int CupsVersion = -1;
+    // when unknown; probed while start-up goes on, used like an int.
+    CupsVersionProbe CupsVersion;
 
     // The instance of the program, made before main() runs.
     static CUPSManager m_CUPSManagerInstance;
@@ -112,6 +116,10 @@ public:
     bool listDrivers(QMap<QString, CUPSDriver> &drivers);
     // The same for any vendor filter; empty keeps every driver.
     bool listDrivers(QMap<QString, CUPSDriver> &drivers, const QString &vendorFilter);
+    // Sends the request for the package's drivers without waiting: the
+    // scheduler answers while start-up goes on, and the next listDrivers()
+    // for the package's vendor takes that answer.
+    void sendDriverRequest();
 
     // --- Destination list (lpoptions) -----------------------------------
     // False when there was no such destination.
@@ -140,9 +148,7 @@ private:
     // Why the last request sent through send() got no answer; empty when
     // one came.
     QString m_lastError;
-
-    static int probeCupsVersion();
-    static int probePackageVersion(bool *answered);
+    std::unique_ptr<EarlyDriverRequest> m_earlyDrivers;
 
     // send(), and the answer's status is not an error.
     bool sendChecked(IPPRequest &request, const char *resource = nullptr);

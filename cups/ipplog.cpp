@@ -30,12 +30,13 @@ void vline(FILE *log, const char *format, va_list args)
     fputs("\r\n", log);
 }
 
-// Opens the logs before main() and closes them after it.
-struct LogLifetime
+// Nothing opens the logs before main(): every program that links this
+// library would empty the running wizard's logs. Whatever is open is
+// closed after main().
+struct LogCloser
 {
-    LogLifetime() { IPPLog::openAll(IPPLog::defaultDirectory()); }
-    ~LogLifetime() { IPPLog::closeAll(); }
-} s_lifetime;
+    ~LogCloser() { IPPLog::closeAll(); }
+} s_closer;
 
 } // namespace
 
@@ -81,8 +82,10 @@ FILE *IPPLog::openSafely(const QString &path)
 {
     // No O_TRUNC here: the file is emptied only once it is known to be ours.
     // O_NONBLOCK keeps a FIFO planted under the name from blocking the open.
+    // O_APPEND: should anything else shorten the file, the lines still go
+    // to its end instead of leaving a gap of NUL bytes.
     const int fd = ::open(QFile::encodeName(path).constData(),
-                          O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600);
+                          O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600);
     if (fd < 0)
         return nullptr;
     struct stat st;
@@ -92,7 +95,7 @@ FILE *IPPLog::openSafely(const QString &path)
         return nullptr;
     }
     fcntl(fd, F_SETFL, fcntl(fd, F_GETFL) & ~O_NONBLOCK);
-    FILE *log = fdopen(fd, "wb");
+    FILE *log = fdopen(fd, "ab");
     if (!log)
         ::close(fd);
     return log;
@@ -137,33 +140,38 @@ void IPPLog::dumpAttribute(FILE *log, ipp_attribute_t *attr)
         line(log, "\n----------\nProperty with no name!\n");
         return;
     }
-    line(log, "\n*************\nProperty name: %s", name);
+    // The lines of an attribute are put together and written at once: a
+    // listing of many queues dumps tens of thousands of attributes.
+    QByteArray text;
+    text.reserve(128);
+    text.append("\n*************\nProperty name: ").append(name).append("\r\n");
     const int count = ippGetCount(attr);
-    line(log, "Values: %d", count);
-    if (count < 1)
-        return;
-    const ipp_tag_t tag = ippGetValueTag(attr);
-    line(log, "Value tag: 0x%x", static_cast<unsigned>(tag));
-    switch (tag) {
-    case IPP_TAG_STRING: {
-        // Octet strings are not NUL-terminated in CUPS 2.
-        int length = 0;
-        const void *data = ippGetOctetString(attr, 0, &length);
-        if (data)
-            line(log, "String: %.*s", length, static_cast<const char *>(data));
-        break;
+    text.append("Values: ").append(QByteArray::number(count)).append("\r\n");
+    if (count > 0) {
+        const ipp_tag_t tag = ippGetValueTag(attr);
+        text.append("Value tag: 0x").append(QByteArray::number(static_cast<unsigned>(tag), 16)).append("\r\n");
+        switch (tag) {
+        case IPP_TAG_STRING: {
+            int length = 0;
+            // Octet strings are not NUL-terminated in CUPS 2, and the text
+            // ends at a NUL inside.
+            if (const auto *bytes = static_cast<const char *>(ippGetOctetString(attr, 0, &length)))
+                text.append("String: ").append(bytes, qsizetype(qstrnlen(bytes, uint(length)))).append("\r\n");
+            break;
+        }
+        case IPP_TAG_TEXT:
+        case IPP_TAG_NAME:
+        case IPP_TAG_URI:
+        case IPP_TAG_MIMETYPE:
+            if (const char *value = ippGetString(attr, 0, nullptr))
+                text.append("String: ").append(value).append("\r\n");
+            break;
+        case IPP_TAG_INTEGER:
+            text.append("Integer: ").append(QByteArray::number(ippGetInteger(attr, 0))).append("\r\n");
+            break;
+        default:
+            break;
+        }
     }
-    case IPP_TAG_TEXT:
-    case IPP_TAG_NAME:
-    case IPP_TAG_URI:
-    case IPP_TAG_MIMETYPE:
-        if (const char *text = ippGetString(attr, 0, nullptr))
-            line(log, "String: %s", text);
-        break;
-    case IPP_TAG_INTEGER:
-        line(log, "Integer: %d", ippGetInteger(attr, 0));
-        break;
-    default:
-        break;
-    }
+    fwrite(text.constData(), 1, size_t(text.size()), log);
 }

@@ -8,9 +8,13 @@
 #include <cstdio>
 
 // The five always-on diagnostic logs of the CUPS client, "ipp_*.log" in
-// /var/tmp. They are opened and truncated when the program starts and closed
-// when it ends. The environment variable QUEUEWIZ_LOG_DIR, when set, names
-// another directory (tests use it so that runs don't share /var/tmp).
+// /var/tmp. Only the wizard's running instance writes them: it opens and
+// truncates them (openAll) before its first request, and they are closed
+// when it ends. Other programs that link this library (the test page, a
+// second start that only wakes the first) leave them alone; until openAll
+// every log is closed and writes go nowhere. The environment variable
+// QUEUEWIZ_LOG_DIR, when set, names another directory (tests use it so that
+// runs don't share /var/tmp).
 //
 // A log is opened only if that is safe for a process that may run as root:
 // never through a symbolic link, never a file of another user, never a file
@@ -30,7 +34,7 @@ public:
     static QString defaultDirectory();
     static QString directory();
 
-    // Closes the logs and opens them again, truncated, in dir.
+    // Closes the logs and opens them again, truncated, in dir, for appending.
     static void openAll(const QString &dir);
     static void closeAll();
 

@@ -82,9 +82,10 @@ public:
     static bool hasSavedPassword();
     // Forgets (and wipes) the kept credentials; the next demand asks again.
     static void forgetPassword();
+    // Installs the password callback (every request does, before it is sent).
+    static void setUpAuthentication();
 
 private:
-    static void setUpAuthentication();
     static void setLastError(const QString &error);
     // Credentials of an administrator for a request refused to the
     // program's user; false when the user cancelled.

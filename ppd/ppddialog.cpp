@@ -2,6 +2,7 @@
 
 #include "cupsmanager.h"
 #include "cupsprinter.h"
+#include "ipprequest.h"
 #include "mimesourcefactory_ppdwidgets.h"
 #include "softassert.h"
 #include "tempfile.h"
@@ -140,6 +141,10 @@ void PPDDialog::accept()
     }
     QMessageBox box(QMessageBox::Critical, tr("Error!"), tr("Can't save results to PPD file!"),
                     QMessageBox::NoButton, this);
+    // The scheduler's reason, when a request was what failed.
+    const CUPSManager &manager = CUPSManager::m_CUPSManagerInstance;
+    if (manager.LastStatus != IPP_STATUS_OK || manager.lastStatusText() != IPPRequest::statusText(IPP_STATUS_OK))
+        box.setInformativeText(manager.lastStatusText());
     box.addButton(tr("Ok"), QMessageBox::AcceptRole);
     box.exec();
 }
@@ -149,7 +154,9 @@ bool PPDDialog::load(const QString &printer)
     release();
 
     const QByteArray name = printer.toUtf8();
-    auto copy = std::make_unique<TempFile>(cupsGetPPD(name.constData()));
+    // Bounded like every request: a stalled scheduler must not freeze the window.
+    const QByteArray fetched = CUPSManager::m_CUPSManagerInstance.fetchPPD(printer);
+    auto copy = std::make_unique<TempFile>(fetched.isEmpty() ? nullptr : fetched.constData());
     if (copy->isNull()) {
         qWarning("cupsGetPPD failed");
         return false;
@@ -199,7 +206,8 @@ bool PPDDialog::save()
     }
 
     // The server's current file is the source, not the copy that is open.
-    const TempFile source(cupsGetPPD(name.constData()));
+    const QByteArray fetched = manager.fetchPPD(m_printer);
+    const TempFile source(fetched.isEmpty() ? nullptr : fetched.constData());
     if (source.isNull()) {
         qWarning("Failed to get PPD for printer <%s>", name.constData());
         return false;

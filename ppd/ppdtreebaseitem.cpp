@@ -43,6 +43,11 @@ void BaseItem::setPicture(const QString &name)
 
 void BaseItem::setConflict(bool conflict)
 {
+    // Clearing finds every child clear and setting every parent set when
+    // this item already is, so only rows whose colour changes are touched:
+    // a repaint per row of a big tree would freeze the dialog.
+    if (conflict == m_conflict)
+        return;
     m_conflict = conflict;
     if (!conflict) {
         for (BaseItem *child : std::as_const(m_childItems))

@@ -35,6 +35,17 @@ const char *lookUp(const QByteArray &keyword)
     return nullptr;
 }
 
+// libcups unmarks the page region when the page size is marked (and the
+// other way round), and the manual feed and the input slot likewise.
+bool marksPartner(const char *keyword)
+{
+    for (const char *partnered : {"PageSize", "PageRegion", "InputSlot", "ManualFeed"}) {
+        if (qstricmp(keyword, partnered) == 0)
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 OptionItem::OptionItem(ppd_file_t *ppd, ppd_option_t *option, BaseItem *parent, bool editableGroup)
@@ -69,7 +80,10 @@ void OptionItem::setChoice(ppd_choice_t *choice)
             setPicture(std::strcmp(choice->choice, "True") == 0 ? QStringLiteral("bool_on.png")
                                                                   : QStringLiteral("bool_off.png"));
     }
-    if (choice && ppd())
+    // Every ppdMarkOption tests all constraints of the PPD, so building the
+    // tree of a big one would take long: a choice that is marked already is
+    // not marked again, unless marking it also clears a partner option.
+    if (choice && ppd() && (!choice->marked || marksPartner(m_option->keyword)))
         ppdMarkOption(ppd(), m_option->keyword, choice->choice);
     refreshLabel();
 }

@@ -3,9 +3,11 @@
 #include "ppdtreebaseitem.h"
 #include "ppdtreedelegate.h"
 #include "ppdtreegroupitem.h"
+#include "ppdtreeoptionitem.h"
 
 #include <QHeaderView>
 #include <QMessageBox>
+#include <QSet>
 #include <QStringList>
 
 namespace {
@@ -36,9 +38,11 @@ PPDTreeView::PPDTreeView(QWidget *parent)
     setHeaderHidden(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setItemDelegate(new PPDTreeDelegate(this));
-    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // The column is as wide as the widest label: measured once per tree and
+    // widened when a label grows (see fitColumn).
     header()->setStretchLastSection(false);
     connect(this, &QTreeWidget::itemSelectionChanged, this, &PPDTreeView::onItemSelectionChanged);
+    connect(model(), &QAbstractItemModel::dataChanged, this, &PPDTreeView::fitColumn);
 }
 
 PPDTreeView::~PPDTreeView()
@@ -71,6 +75,7 @@ void PPDTreeView::setPPD(ppd_file_t *ppd)
         new PPDTree::GroupItem(ppd, &ppd->groups[i], m_root);
     m_root->registerIn(m_dictionary);
     findConflicts();
+    resizeColumnToContents(0);
 }
 
 void PPDTreeView::reload()
@@ -119,12 +124,47 @@ void PPDTreeView::findConflicts()
         m_hasConflicts = false;
         return;
     }
-    m_root->setConflict(false);
     m_hasConflicts = ppdConflicts(m_ppd) > 0;
-    if (!m_hasConflicts)
+    // The rows in conflict from now on: the options libcups flagged and the
+    // way up to the root. Rows that keep their state are left alone.
+    QSet<PPDTree::BaseItem *> conflicts;
+    if (m_hasConflicts) {
+        for (PPDTree::BaseItem *item : std::as_const(m_dictionary)) {
+            // As OptionItem::updateConflict decides; numerical rows stay clear.
+            const auto *option = dynamic_cast<PPDTree::OptionItem *>(item);
+            if (!option || option->numerical() != 0 || !option->option()->conflicted)
+                continue;
+            for (PPDTree::BaseItem *up = item; up && !conflicts.contains(up); up = up->parentItem())
+                conflicts.insert(up);
+        }
+    }
+    updateConflicts(m_root, conflicts);
+}
+
+void PPDTreeView::updateConflicts(PPDTree::BaseItem *item, const QSet<PPDTree::BaseItem *> &conflicts)
+{
+    // Children first: a row is cleared only once nothing below it is left
+    // in conflict, and setting a row sets its parents, which are in the set.
+    for (PPDTree::BaseItem *child : item->childItems())
+        updateConflicts(child, conflicts);
+    item->setConflict(conflicts.contains(item));
+}
+
+void PPDTreeView::fitColumn(const QModelIndex &topLeft, const QModelIndex &bottomRight)
+{
+    // A changed row can only make the column wider: measure the rows that
+    // changed, never the whole column, which costs a walk over every row.
+    if (!topLeft.isValid() || !bottomRight.isValid())
         return;
-    for (PPDTree::BaseItem *item : std::as_const(m_dictionary))
-        item->updateConflict();
+    int depth = rootIsDecorated() ? 1 : 0;
+    for (QModelIndex up = topLeft.parent(); up.isValid(); up = up.parent())
+        ++depth;
+    int width = 0;
+    for (int row = topLeft.row(); row <= bottomRight.row(); ++row)
+        width = qMax(width, sizeHintForIndex(topLeft.sibling(row, 0)).width());
+    width += depth * indentation();
+    if (width > columnWidth(0))
+        setColumnWidth(0, width);
 }
 
 void PPDTreeView::onItemSelectionChanged()

@@ -4,6 +4,7 @@
 #include <cups/ppd.h>
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <QTreeWidget>
 
@@ -51,6 +52,8 @@ protected:
 
 private:
     void findConflicts();
+    void updateConflicts(PPDTree::BaseItem *item, const QSet<PPDTree::BaseItem *> &conflicts);
+    void fitColumn(const QModelIndex &topLeft, const QModelIndex &bottomRight);
     void onItemSelectionChanged();
 
     ppd_file_t *m_ppd = nullptr;

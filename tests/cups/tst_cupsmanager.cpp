@@ -200,15 +200,19 @@ private slots:
         QTest::addColumn<QString>("filter"); // "-": the OEM vendor
         QTest::addColumn<QByteArray>("oemVendor");
         QTest::addColumn<QStringList>("names");
+        QTest::addColumn<bool>("sentEarly"); // sendDriverRequest() first
         // Two of the three drivers of one model share the language as well; the
         // second of those (in the scheduler's order) is told apart by its file.
         const QStringList acme{"Acme ColorLaser 2550", "Acme Laser 1610 Series (FILE)", "Acme Laser 1610 Series (de)",
                                "Acme Laser 1610 Series (en)", "Acme MFP 4200 Series"};
-        QTest::newRow("vendor") << "ACME" << QByteArray() << acme;
-        QTest::newRow("vendor, other case") << "acme" << QByteArray() << acme;
-        QTest::newRow("unknown vendor") << "INITECH" << QByteArray() << QStringList();
-        QTest::newRow("empty vendor keeps all") << "" << QByteArray() << acme + QStringList{"Globex PageWriter 40"};
-        QTest::newRow("OEM vendor") << "-" << QByteArray("GLOBEX") << QStringList{"Globex PageWriter 40"};
+        const QStringList globex{"Globex PageWriter 40"};
+        QTest::newRow("vendor") << "ACME" << QByteArray() << acme << false;
+        QTest::newRow("vendor, other case") << "acme" << QByteArray() << acme << false;
+        QTest::newRow("unknown vendor") << "INITECH" << QByteArray() << QStringList() << false;
+        QTest::newRow("empty vendor keeps all") << "" << QByteArray() << acme + globex << false;
+        QTest::newRow("OEM vendor") << "-" << QByteArray("GLOBEX") << globex << false;
+        QTest::newRow("OEM vendor, sent early") << "-" << QByteArray("GLOBEX") << globex << true;
+        QTest::newRow("other vendor than sent early") << "ACME" << QByteArray("GLOBEX") << acme << true;
     }
 
     void driverCatalogue()
@@ -216,9 +220,14 @@ private slots:
         QFETCH(QString, filter);
         QFETCH(QByteArray, oemVendor);
         QFETCH(QStringList, names);
+        QFETCH(bool, sentEarly);
         QMap<QString, CUPSDriver> drivers{{u"stale"_s, CUPSDriver()}};
         qstrncpy(actx.vendorUpper, oemVendor.constData(), sizeof actx.vendorUpper);
+        if (sentEarly)
+            manager.sendDriverRequest();
         QVERIFY(filter == "-"_L1 ? manager.listDrivers(drivers) : manager.listDrivers(drivers, filter));
+        // One request logged, whether its answer was waiting or not.
+        QCOMPARE(requestsLogged(IPP_OP_CUPS_GET_PPDS), 1);
         QStringList keys = drivers.keys();
         // Every vendor includes the system's own drivers, if it has any.
         keys.removeIf([](const QString &key) { return !key.startsWith("Acme"_L1) && !key.startsWith("Globex"_L1); });

@@ -3,10 +3,11 @@
 
 #include "instanceprocess.h"
 #include "testpaths.h"
-#include "testsupport.h"
 #include "xcbclient.h"
 
+#include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -32,9 +33,19 @@ class TestSingleAppX11 : public QObject
         return instance;
     }
 
-    static QString received(InstanceProcess &instance)
+    static QString received(InstanceProcess &instance, int timeout = 15000)
     {
-        return QString::fromUtf8(QByteArray::fromPercentEncoding(instance.waitFor("message")));
+        return QString::fromUtf8(QByteArray::fromPercentEncoding(instance.waitFor("message", timeout)));
+    }
+
+    // A display nothing listens on.
+    static QString unusedDisplay()
+    {
+        int number = 99;
+        while (QFile::exists(QStringLiteral("/tmp/.X11-unix/X%1").arg(number))
+               || QFile::exists(QStringLiteral("/tmp/.X%1-lock").arg(number)))
+            ++number;
+        return QStringLiteral(":%1").arg(number);
     }
 
     xcb_window_t ownerOf(const QByteArray &selection) const
@@ -157,15 +168,66 @@ private slots:
         QCOMPARE(sender->ask("send nobody"), QByteArray("0"));
     }
 
-    // The program itself, started while an instance of the same user runs.
-    void secondQueuewizStartExits()
+    // Programs started while an instance of the same user runs: a second
+    // start wakes it, the test page prints; neither may touch the logs the
+    // instance writes. Without a display that answers, the usage still
+    // prints and a start says why it can't go on instead of aborting.
+    void startsBesideTheInstance_data()
     {
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<bool>("deadDisplay");
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("output");
+        QTest::newRow("second start") << "app/queuewiz" << QStringList() << false << 0 << QString();
+        QTest::newRow("test page") << "tools/printertest/printertest" << QStringList{"no_such_queue"} << false << 0
+                                   << "there is no printer";
+        QTest::newRow("no display, --help") << "app/queuewiz" << QStringList{"--help"} << true << 0 << "USAGE:";
+        QTest::newRow("no display, start")
+            << "app/queuewiz" << QStringList() << true << 1 << "there is no display to show the wizard on";
+    }
+
+    void startsBesideTheInstance()
+    {
+        QFETCH(QString, program);
+        QFETCH(QStringList, arguments);
+        QFETCH(bool, deadDisplay);
+        QFETCH(int, exitCode);
+        QFETCH(QString, output);
         Instance first = start(QStringLiteral("AddPrinterWizard_SingleApplication"), true);
         QVERIFY(first);
-        const TestSupport::Run second = TestSupport::run(TestPaths::binaryDir() + QStringLiteral("/app/queuewiz"), {},
-                                                         InstanceProcess::environment(m_display));
-        QVERIFY2(second.status == 0, qPrintable(second.err));
-        QCOMPARE(received(*first), QStringLiteral("Wake up!!!"));
+        QTemporaryDir logs;
+        const QByteArray lines = "Requesting operation 0x4001...\r\nResult status: OK\n\r\n";
+        const QStringList names{"ipp_request.log", "ipp_printer.log", "ipp_driver.log", "ipp_job.log",
+                                "ipp_class.log"};
+        for (const QString &name : names) {
+            QFile log(logs.filePath(name));
+            QVERIFY(log.open(QIODevice::WriteOnly) && log.write(lines) == lines.size());
+        }
+
+        QProcess child;
+        QProcessEnvironment env = InstanceProcess::environment(m_display);
+        env.insert(QStringLiteral("QUEUEWIZ_LOG_DIR"), logs.path());
+        env.insert(QStringLiteral("CUPS_SERVER"), QStringLiteral("localhost:9"));
+        if (deadDisplay) {
+            env.insert(QStringLiteral("DISPLAY"), unusedDisplay());
+            env.remove(QStringLiteral("QT_QPA_PLATFORM"));
+        }
+        child.setProcessEnvironment(env);
+        child.setProcessChannelMode(QProcess::MergedChannels);
+        child.start(TestPaths::binaryDir() + QLatin1Char('/') + program, arguments);
+        QVERIFY2(child.waitForFinished(30000), "the program did not end");
+        const QString said = QString::fromLocal8Bit(child.readAll());
+        QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(child.exitCode(), exitCode);
+        QVERIFY2(said.contains(output), qPrintable(said));
+        const bool wakes = program.endsWith(QLatin1String("queuewiz")) && !deadDisplay;
+        QCOMPARE(received(*first, wakes ? 15000 : 0), wakes ? QStringLiteral("Wake up!!!") : QString());
+        for (const QString &name : names) {
+            QFile log(logs.filePath(name));
+            QVERIFY(log.open(QIODevice::ReadOnly));
+            QCOMPARE(log.readAll(), lines);
+        }
         QCOMPARE(first->quit(), 0);
     }
 };

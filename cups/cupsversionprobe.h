@@ -1,0 +1,38 @@
+#ifndef QUEUEWIZ_CUPSVERSIONPROBE_H
+#define QUEUEWIZ_CUPSVERSIONPROBE_H
+
+#include <sys/types.h>
+
+// The minor version of the installed CUPS (1 for 1.1.x, 4 for 2.4.x), -1
+// when unknown. The package query is a shell pipeline that takes a good
+// part of a second: it starts with this object and is read when the number
+// is first used, so that start-up goes on meanwhile. When no package
+// answers, the fallback (the running scheduler) is asked then.
+//
+// Used like the int it stands for; assigning a number ends the probe.
+class CupsVersionProbe
+{
+public:
+    explicit CupsVersionProbe(int (*fallback)());
+    ~CupsVersionProbe();
+    CupsVersionProbe(const CupsVersionProbe &) = delete;
+    CupsVersionProbe &operator=(const CupsVersionProbe &) = delete;
+
+    CupsVersionProbe &operator=(int version);
+    operator int() const { return value(); }
+    int value() const;
+
+private:
+    void start();
+    // The pipeline's number; *answered is false when it printed nothing.
+    int readAnswer(bool *answered);
+    void stop();
+
+    int (*m_fallback)();
+    pid_t m_child = -1;
+    int m_output = -1;
+    mutable bool m_known = false;
+    mutable int m_version = -1;
+};
+
+#endif
