@@ -143,7 +143,7 @@ void PPDDialog::accept()
                     QMessageBox::NoButton, this);
     // The scheduler's reason, when a request was what failed.
     const CUPSManager &manager = CUPSManager::m_CUPSManagerInstance;
-    if (manager.LastStatus != IPP_STATUS_OK || manager.lastStatusText() != IPPRequest::statusText(IPP_STATUS_OK))
+    if (manager.lastStatusText() != IPPRequest::statusText(IPP_STATUS_OK))
         box.setInformativeText(manager.lastStatusText());
     box.addButton(tr("Ok"), QMessageBox::AcceptRole);
     box.exec();
