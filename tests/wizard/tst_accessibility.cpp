@@ -105,15 +105,13 @@ QStringList pageFaults(const W *wizard)
     QSet<QWidget *> reached;
     for (int i = 0; start && i < 30 && (i == 0 || QApplication::focusWidget() != start); ++i) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const auto *button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
+        for (QWidget *w : button && button->group() ? button->group()->buttons() : QList<QAbstractButton *>{})
+            reached << w;
         reached << QApplication::focusWidget();
     }
     for (QWidget *w : std::as_const(controls)) {
-        const auto *button = qobject_cast<QAbstractButton *>(w);
-        const QList<QAbstractButton *> group =
-            button && button->group() ? button->group()->buttons() : QList<QAbstractButton *>{};
-        if (!reached.contains(w) && std::none_of(group.cbegin(), group.cend(), [&](QAbstractButton *b) {
-                return reached.contains(b);
-            }))
+        if (!reached.contains(w))
             faults << at + w->objectName() + " is out of Tab's reach";
     }
     return faults;
@@ -226,7 +224,6 @@ private slots:
         QCOMPARE(f.wizard()->currentId(), int(W::PortTypePage));
         QCOMPARE(f.nextEnabled(), !next);
         QAccessibleInterface *radio = accessible(f.child<QRadioButton>(qPrintable(button)));
-        QVERIFY(radio->actionInterface()->actionNames().contains(QAccessibleActionInterface::toggleAction()));
         radio->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         QVERIFY(radio->state().checked);
         QCOMPARE(f.nextEnabled(), next);
