@@ -35,7 +35,8 @@ bool ArrowKeyRadioGroup::eventFilter(QObject *watched, QEvent *event)
     }
     // The group's order is the order on the screen.
     const QList<QAbstractButton *> buttons = m_group->buttons();
-    for (qsizetype i = buttons.indexOf(qobject_cast<QAbstractButton *>(watched)) + step; i >= 0 && i < buttons.size(); i += step) {
+    const qsizetype from = buttons.indexOf(qobject_cast<QAbstractButton *>(watched));
+    for (qsizetype i = from + step; i >= 0 && i < buttons.size(); i += step) {
         QAbstractButton *next = buttons.at(i);
         if (next->isEnabled() && next->isVisible()) {
             next->setFocus(step < 0 ? Qt::BacktabFocusReason : Qt::TabFocusReason);
