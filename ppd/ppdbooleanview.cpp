@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
+#include <QSignalBlocker>
 
 PPDBooleanView::PPDBooleanView(QWidget *parent)
     : PPDBooleanViewBase(parent)
@@ -9,7 +10,11 @@ PPDBooleanView::PPDBooleanView(QWidget *parent)
 {
     m_group->addButton(button1, 0);
     m_group->addButton(button2, 1);
-    connect(m_group, &QButtonGroup::idClicked, this, &PPDBooleanView::valueChanged);
+    // Arrows and the accessible Toggle action check a button without a click.
+    connect(m_group, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
+        if (checked)
+            emit valueChanged(id);
+    });
 }
 
 void PPDBooleanView::setButtonText(int id, const QString &text)
@@ -26,6 +31,8 @@ QString PPDBooleanView::buttonText(int id) const
 
 void PPDBooleanView::selectButton(int id)
 {
+    // Showing the current choice is not choosing it.
+    const QSignalBlocker blocker(m_group);
     if (QAbstractButton *button = m_group->button(id))
         button->setChecked(true);
 }

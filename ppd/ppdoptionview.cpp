@@ -94,6 +94,8 @@ void PPDOptionView::setOption(QTreeWidgetItem *item)
         m_stack->setCurrentIndex(ListPage);
         const QSignalBlocker listBlocker(m_choiceList);
         m_choiceList->clear();
+        // The list has no caption of its own; the box's title says what it is.
+        m_choiceList->setAccessibleName(QString::fromUtf8(ppdOption->text));
         int current = -1;
         for (int i = 0; i < ppdOption->num_choices; ++i) {
             m_choiceList->addItem(QString::fromUtf8(ppdOption->choices[i].text));

@@ -74,6 +74,18 @@ void BaseItem::updateConflict()
 {
 }
 
+QVariant BaseItem::data(int column, int role) const
+{
+    if (role != Qt::AccessibleTextRole || column != 0)
+        return QTreeWidgetItem::data(column, role);
+    return m_conflict ? tr("%1, in conflict").arg(spokenText()) : spokenText();
+}
+
+QString BaseItem::spokenText() const
+{
+    return text(0);
+}
+
 void BaseItem::reload(ppd_file_t *ppd)
 {
     for (BaseItem *child : std::as_const(m_childItems))

@@ -62,7 +62,13 @@ public:
     // Takes the marked choices of ppd again.
     virtual void reload(ppd_file_t *ppd);
 
+    // Screen readers read the row from Qt::AccessibleTextRole: the label
+    // without its decoration, and the conflict that only the colour shows.
+    QVariant data(int column, int role) const override;
+
 protected:
+    // What a screen reader reads for the row, conflict aside.
+    virtual QString spokenText() const;
     // The colour of plain label text.
     static QColor textColour(const QPalette &palette, bool selected);
 

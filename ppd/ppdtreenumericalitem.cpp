@@ -46,9 +46,9 @@ void NumericalItem::refreshLabel()
     setText(0, QStringLiteral("%1: <%2>").arg(optionText(), number));
 }
 
-QList<LabelRun> NumericalItem::labelRuns(const QPalette &palette, bool selected) const
+QString NumericalItem::valueText() const
 {
-    return valueRuns(QString::asprintf("%.3f", m_value), palette, selected);
+    return QString::asprintf("%.3f", m_value);
 }
 
 void NumericalItem::registerIn(QHash<QString, BaseItem *> &dictionary)

@@ -23,10 +23,12 @@ public:
 
     void refreshLabel() override;
 
-    QList<LabelRun> labelRuns(const QPalette &palette, bool selected) const override;
     void registerIn(QHash<QString, BaseItem *> &dictionary) override;
     void updateConflict() override;
     void reload(ppd_file_t *ppd) override;
+
+protected:
+    QString valueText() const override;
 
 private:
     int m_realValue = 0;

@@ -96,7 +96,17 @@ void OptionItem::refreshLabel()
 
 QList<LabelRun> OptionItem::labelRuns(const QPalette &palette, bool selected) const
 {
-    return valueRuns(m_choice ? QString::fromUtf8(m_choice->text) : tr("Undefined"), palette, selected);
+    return valueRuns(valueText(), palette, selected);
+}
+
+QString OptionItem::valueText() const
+{
+    return m_choice ? QString::fromUtf8(m_choice->text) : tr("Undefined");
+}
+
+QString OptionItem::spokenText() const
+{
+    return optionText() + QStringLiteral(": ") + valueText();
 }
 
 void OptionItem::registerIn(QHash<QString, BaseItem *> &dictionary)

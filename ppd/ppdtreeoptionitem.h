@@ -38,6 +38,10 @@ protected:
     // The runs "text: <", value, ">" with the value coloured by the state.
     QList<LabelRun> valueRuns(const QString &value, const QPalette &palette, bool selected) const;
     QString optionText() const;
+    // The current value as the row shows it.
+    virtual QString valueText() const;
+    // "text: value".
+    QString spokenText() const override;
 
 private:
     ppd_option_t *m_option;

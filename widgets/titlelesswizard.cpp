@@ -3,6 +3,7 @@
 #include "titlelesswizardpage.h"
 
 #include <QAbstractButton>
+#include <QButtonGroup>
 
 TitlelessWizard::TitlelessWizard(QWidget *parent, const QString &name)
     : QWizard(parent)
@@ -11,6 +12,7 @@ TitlelessWizard::TitlelessWizard(QWidget *parent, const QString &name)
     setWizardStyle(QWizard::ClassicStyle);
     setOptions(QWizard::IndependentPages | QWizard::HaveHelpButton | QWizard::NoBackButtonOnStartPage);
     connect(this, &QWizard::currentIdChanged, this, &TitlelessWizard::applyButtonStates);
+    connect(this, &QWizard::currentIdChanged, this, &TitlelessWizard::focusFirstControl);
 }
 
 int TitlelessWizard::pageCount() const
@@ -129,5 +131,31 @@ void TitlelessWizard::applyButtonStates()
     if (QAbstractButton *back = button(QWizard::BackButton)) {
         if (!isBackEnabled(id))
             back->setEnabled(false);
+    }
+}
+
+QWidget *TitlelessWizard::firstControl(QWidget *page)
+{
+    for (QWidget *w = page->nextInFocusChain(); w && w != page; w = w->nextInFocusChain()) {
+        if (!page->isAncestorOf(w) || !w->isEnabled() || !w->isVisible())
+            continue;
+        // Of an exclusive group Tab reaches one button, the one focused
+        // last; the checked one is what the user wants to hear about.
+        const auto *button = qobject_cast<QAbstractButton *>(w);
+        const QButtonGroup *group = button ? button->group() : nullptr;
+        QAbstractButton *checked = group && group->exclusive() ? group->checkedButton() : nullptr;
+        if (checked && checked->isEnabled() && checked->isVisible())
+            return checked;
+        if (w->focusPolicy() & Qt::TabFocus)
+            return w;
+    }
+    return nullptr;
+}
+
+void TitlelessWizard::focusFirstControl()
+{
+    if (QWidget *page = currentPage()) {
+        if (QWidget *control = firstControl(page))
+            control->setFocus(Qt::TabFocusReason);
     }
 }

@@ -53,6 +53,13 @@ private:
     // QWizard sets Back by its history whenever it updates its buttons;
     // pages whose Back is off get it switched off again afterwards.
     void applyButtonStates();
+    // QWizard leaves the focus on Next when the page's first control is
+    // disabled, and Next itself may just have been disabled.
+    void focusFirstControl();
+    // The control of page that takes the keyboard focus when the page is
+    // shown: the first usable one in the Tab order; of an exclusive group of
+    // buttons, its checked button when that one is usable. Null when none.
+    static QWidget *firstControl(QWidget *page);
 
     QHash<int, bool> m_backEnabled;
     QHash<int, bool> m_appropriate;

@@ -1,5 +1,6 @@
 #include "AddPrinterWizard.h"
 
+#include "arrowkeyradiogroup.h"
 #include "browserlauncher.h"
 #include "cupsmanager.h"
 #include "driverfetcher.h"
@@ -157,7 +158,14 @@ void AddPrinterWizard::connectSlots()
     // QWizard has no key for its Help button.
     auto *helpKey = new QShortcut(QKeySequence::HelpContents, this);
     connect(helpKey, &QShortcut::activated, this, &AddPrinterWizard::help);
-    connect(m_pPortTypes, &QButtonGroup::idClicked, this, &AddPrinterWizard::setPortType);
+    // The type follows the checked button however it got checked: mouse,
+    // mnemonic, Space, arrows or the accessible Toggle action. The button
+    // that was unchecked on the way says nothing.
+    connect(m_pPortTypes, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
+        if (checked)
+            setPortType(id);
+    });
+    new ArrowKeyRadioGroup(m_pPortTypes);
     connect(m_pConnectedList, &QComboBox::textActivated, this, &AddPrinterWizard::OnLocalPrinterChanged);
     connect(m_pNetworkList, qOverload<int>(&QComboBox::activated), this, &AddPrinterWizard::OnNetworkPrinterChanged);
 }

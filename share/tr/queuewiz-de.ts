@@ -105,10 +105,6 @@
         <translation>Dieser Assistent richtet in wenigen Schritten einen neuen Drucker auf diesem Computer ein.</translation>
     </message>
     <message>
-        <source>Introduction</source>
-        <translation>Einführung</translation>
-    </message>
-    <message>
         <source>&lt;p&gt;The wizard will ask you for:&lt;/p&gt;&lt;ol&gt;&lt;li&gt;how the printer is attached: by cable, over the network, or not yet connected,&lt;/li&gt;&lt;li&gt;the printer model, so that the right driver is used,&lt;/li&gt;&lt;li&gt;a name for the new printer.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;It then adds the printer, makes it your default printer and lets you print a test page.&lt;/p&gt;&lt;p&gt;Click &lt;b&gt;Next&lt;/b&gt; to begin.&lt;/p&gt;</source>
         <translation>&lt;p&gt;Der Assistent fragt Sie nach:&lt;/p&gt;&lt;ol&gt;&lt;li&gt;der Art, wie der Drucker angeschlossen ist: per Kabel, über das Netzwerk oder noch gar nicht,&lt;/li&gt;&lt;li&gt;dem Druckermodell, damit der passende Treiber verwendet wird,&lt;/li&gt;&lt;li&gt;einem Namen für den neuen Drucker.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;Anschließend richtet er den Drucker ein, macht ihn zu Ihrem Standarddrucker und bietet Ihnen an, eine Testseite zu drucken.&lt;/p&gt;&lt;p&gt;Klicken Sie auf &lt;b&gt;Weiter&lt;/b&gt;, um zu beginnen.&lt;/p&gt;</translation>
     </message>
@@ -129,48 +125,20 @@
         <translation>&amp;Lokaler Drucker, per USB- oder Parallelkabel angeschlossen</translation>
     </message>
     <message>
-        <source>Local printer</source>
-        <translation>Lokaler Drucker</translation>
-    </message>
-    <message>
         <source>&amp;Printer:</source>
         <translation>&amp;Drucker:</translation>
-    </message>
-    <message>
-        <source>Local printer list label</source>
-        <translation>Beschriftung der Liste lokaler Drucker</translation>
-    </message>
-    <message>
-        <source>Local printers</source>
-        <translation>Lokale Drucker</translation>
     </message>
     <message>
         <source>Net&amp;work printer</source>
         <translation>&amp;Netzwerkdrucker</translation>
     </message>
     <message>
-        <source>Network printer</source>
-        <translation>Netzwerkdrucker</translation>
-    </message>
-    <message>
         <source>P&amp;rinter found:</source>
         <translation>&amp;Gefundener Drucker:</translation>
     </message>
     <message>
-        <source>Network printer list label</source>
-        <translation>Beschriftung der Liste der Netzwerkdrucker</translation>
-    </message>
-    <message>
-        <source>Network printers</source>
-        <translation>Gefundene Netzwerkdrucker</translation>
-    </message>
-    <message>
         <source>&amp;Search Network</source>
         <translation>Netzwerk d&amp;urchsuchen</translation>
-    </message>
-    <message>
-        <source>Search the network for printers</source>
-        <translation>Das Netzwerk nach Druckern durchsuchen</translation>
     </message>
     <message>
         <source>Look for printers on the local network</source>
@@ -181,20 +149,12 @@
         <translation>&amp;Info zu Netzwerkdruckern...</translation>
     </message>
     <message>
-        <source>Help on network printers</source>
-        <translation>Hilfe zu Netzwerkdruckern</translation>
-    </message>
-    <message>
         <source>How to connect a network printer and find its address</source>
         <translation>So schließen Sie einen Netzwerkdrucker an und finden seine Adresse heraus</translation>
     </message>
     <message>
         <source>Printer not &amp;connected now: choose the port yourself</source>
         <translation>Drucker derzeit nicht angeschlossen: &amp;Anschluss selbst wählen</translation>
-    </message>
-    <message>
-        <source>Printer not connected now</source>
-        <translation>Drucker derzeit nicht angeschlossen</translation>
     </message>
     <message>
         <source>Printer picture</source>
@@ -207,10 +167,6 @@
     <message>
         <source>Choose the port the printer will use. For a network printer or a file, double-click its entry (or press F2) and type the address, for example socket://192.168.1.20.</source>
         <translation>Wählen Sie den Anschluss, den der Drucker verwenden soll. Für einen Netzwerkdrucker oder eine Datei doppelklicken Sie auf den Eintrag (oder drücken F2) und geben die Adresse ein, zum Beispiel socket://192.168.1.20.</translation>
-    </message>
-    <message>
-        <source>Ports label</source>
-        <translation>Beschriftung der Anschlüsse</translation>
     </message>
     <message>
         <source>&amp;Ports:</source>
@@ -229,10 +185,6 @@
         <translation>Wählen Sie das Modell Ihres Druckers. Die Liste zeigt die Treiber dieses Pakets.</translation>
     </message>
     <message>
-        <source>Printer models label</source>
-        <translation>Beschriftung der Druckermodelle</translation>
-    </message>
-    <message>
         <source>Printer &amp;models:</source>
         <translation>&amp;Druckermodelle:</translation>
     </message>
@@ -249,44 +201,20 @@
         <translation>Geben Sie dem Drucker einen kurzen Namen (Buchstaben, Ziffern und Unterstriche). Standort und Beschreibung sind optional und helfen anderen, ihn zu finden.</translation>
     </message>
     <message>
-        <source>Printer name label</source>
-        <translation>Beschriftung des Druckernamens</translation>
-    </message>
-    <message>
         <source>Printer n&amp;ame:</source>
         <translation>Drucker&amp;name:</translation>
-    </message>
-    <message>
-        <source>Printer name</source>
-        <translation>Name des Druckers</translation>
-    </message>
-    <message>
-        <source>Location label</source>
-        <translation>Beschriftung des Standorts</translation>
     </message>
     <message>
         <source>&amp;Location:</source>
         <translation>Stand&amp;ort:</translation>
     </message>
     <message>
-        <source>Printer location</source>
-        <translation>Standort des Druckers</translation>
-    </message>
-    <message>
         <source>for example: Room 2.14</source>
         <translation>zum Beispiel: Raum 2.14</translation>
     </message>
     <message>
-        <source>Description label</source>
-        <translation>Beschriftung der Beschreibung</translation>
-    </message>
-    <message>
         <source>&amp;Description:</source>
         <translation>&amp;Beschreibung:</translation>
-    </message>
-    <message>
-        <source>Printer description</source>
-        <translation>Beschreibung des Druckers</translation>
     </message>
     <message>
         <source>for example: Laser printer by the window</source>
@@ -305,24 +233,12 @@
         <translation>&lt;p&gt;Der Drucker &lt;b&gt;%1&lt;/b&gt; wurde hinzugefügt.&lt;/p&gt;%4&lt;p&gt;Modell: %2&lt;br&gt;Anschluss: %3&lt;/p&gt;&lt;p&gt;Drucken Sie eine Testseite, um zu prüfen, ob alles funktioniert, oder passen Sie die Treiberoptionen an. Klicken Sie auf &lt;b&gt;Abschließen&lt;/b&gt;, um den Assistenten zu schließen.&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>Summary</source>
-        <translation>Zusammenfassung</translation>
-    </message>
-    <message>
         <source>Print &amp;Test Page</source>
         <translation>&amp;Testseite drucken</translation>
     </message>
     <message>
-        <source>Print a test page</source>
-        <translation>Eine Testseite drucken</translation>
-    </message>
-    <message>
         <source>Driver &amp;Options...</source>
         <translation>Treiber&amp;optionen...</translation>
-    </message>
-    <message>
-        <source>Driver options</source>
-        <translation>Treiberoptionen</translation>
     </message>
 </context>
 <context>
@@ -457,6 +373,10 @@ Verwenden Sie diese Adresse:
         <source>&amp;Cancel</source>
         <translation>&amp;Abbrechen</translation>
     </message>
+    <message>
+        <source>Driver options</source>
+        <translation>Treiberoptionen</translation>
+    </message>
 </context>
 <context>
     <name>PPDNumericViewBase</name>
@@ -476,12 +396,23 @@ Verwenden Sie diese Adresse:
         <source>max</source>
         <translation>Max.</translation>
     </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
 </context>
 <context>
     <name>PPDOptionView</name>
     <message>
         <source>No option selected</source>
         <translation>Keine Option ausgewählt</translation>
+    </message>
+</context>
+<context>
+    <name>PPDTree::BaseItem</name>
+    <message>
+        <source>%1, in conflict</source>
+        <translation>%1, im Konflikt</translation>
     </message>
 </context>
 <context>

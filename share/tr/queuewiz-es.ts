@@ -105,10 +105,6 @@
         <translation>Este asistente configura una impresora nueva en este equipo en unos pocos pasos.</translation>
     </message>
     <message>
-        <source>Introduction</source>
-        <translation>Introducción</translation>
-    </message>
-    <message>
         <source>&lt;p&gt;The wizard will ask you for:&lt;/p&gt;&lt;ol&gt;&lt;li&gt;how the printer is attached: by cable, over the network, or not yet connected,&lt;/li&gt;&lt;li&gt;the printer model, so that the right driver is used,&lt;/li&gt;&lt;li&gt;a name for the new printer.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;It then adds the printer, makes it your default printer and lets you print a test page.&lt;/p&gt;&lt;p&gt;Click &lt;b&gt;Next&lt;/b&gt; to begin.&lt;/p&gt;</source>
         <translation>&lt;p&gt;El asistente le pedirá:&lt;/p&gt;&lt;ol&gt;&lt;li&gt;cómo está conectada la impresora: por cable, por la red o todavía sin conectar;&lt;/li&gt;&lt;li&gt;el modelo de la impresora, para usar el controlador adecuado;&lt;/li&gt;&lt;li&gt;un nombre para la impresora nueva.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;A continuación añade la impresora, la convierte en su impresora predeterminada y le permite imprimir una página de prueba.&lt;/p&gt;&lt;p&gt;Pulse &lt;b&gt;Siguiente&lt;/b&gt; para empezar.&lt;/p&gt;</translation>
     </message>
@@ -129,48 +125,20 @@
         <translation>Impresora &amp;local, conectada por cable USB o paralelo</translation>
     </message>
     <message>
-        <source>Local printer</source>
-        <translation>Impresora local</translation>
-    </message>
-    <message>
         <source>&amp;Printer:</source>
         <translation>&amp;Impresora:</translation>
-    </message>
-    <message>
-        <source>Local printer list label</source>
-        <translation>Etiqueta de la lista de impresoras locales</translation>
-    </message>
-    <message>
-        <source>Local printers</source>
-        <translation>Impresoras locales</translation>
     </message>
     <message>
         <source>Net&amp;work printer</source>
         <translation>Impresora de &amp;red</translation>
     </message>
     <message>
-        <source>Network printer</source>
-        <translation>Impresora de red</translation>
-    </message>
-    <message>
         <source>P&amp;rinter found:</source>
         <translation>Impresora &amp;encontrada:</translation>
     </message>
     <message>
-        <source>Network printer list label</source>
-        <translation>Etiqueta de la lista de impresoras de red</translation>
-    </message>
-    <message>
-        <source>Network printers</source>
-        <translation>Impresoras de red</translation>
-    </message>
-    <message>
         <source>&amp;Search Network</source>
         <translation>&amp;Buscar en la red</translation>
-    </message>
-    <message>
-        <source>Search the network for printers</source>
-        <translation>Buscar impresoras en la red</translation>
     </message>
     <message>
         <source>Look for printers on the local network</source>
@@ -181,20 +149,12 @@
         <translation>A&amp;cerca de las impresoras de red...</translation>
     </message>
     <message>
-        <source>Help on network printers</source>
-        <translation>Ayuda sobre las impresoras de red</translation>
-    </message>
-    <message>
         <source>How to connect a network printer and find its address</source>
         <translation>Cómo conectar una impresora de red y averiguar su dirección</translation>
     </message>
     <message>
         <source>Printer not &amp;connected now: choose the port yourself</source>
         <translation>Impresora sin conectar por el &amp;momento: elegir el puerto manualmente</translation>
-    </message>
-    <message>
-        <source>Printer not connected now</source>
-        <translation>Impresora sin conectar por el momento</translation>
     </message>
     <message>
         <source>Printer picture</source>
@@ -207,10 +167,6 @@
     <message>
         <source>Choose the port the printer will use. For a network printer or a file, double-click its entry (or press F2) and type the address, for example socket://192.168.1.20.</source>
         <translation>Elija el puerto que usará la impresora. Para una impresora de red o un archivo, haga doble clic en su entrada (o pulse F2) y escriba la dirección, por ejemplo socket://192.168.1.20.</translation>
-    </message>
-    <message>
-        <source>Ports label</source>
-        <translation>Etiqueta de los puertos</translation>
     </message>
     <message>
         <source>&amp;Ports:</source>
@@ -229,10 +185,6 @@
         <translation>Elija el modelo de su impresora. La lista muestra los controladores de este paquete.</translation>
     </message>
     <message>
-        <source>Printer models label</source>
-        <translation>Etiqueta de los modelos de impresora</translation>
-    </message>
-    <message>
         <source>Printer &amp;models:</source>
         <translation>&amp;Modelos de impresora:</translation>
     </message>
@@ -249,44 +201,20 @@
         <translation>Dé a la impresora un nombre corto (letras, cifras y guiones bajos). La ubicación y la descripción son opcionales y ayudan a otros a encontrarla.</translation>
     </message>
     <message>
-        <source>Printer name label</source>
-        <translation>Etiqueta del nombre de la impresora</translation>
-    </message>
-    <message>
         <source>Printer n&amp;ame:</source>
         <translation>N&amp;ombre de la impresora:</translation>
-    </message>
-    <message>
-        <source>Printer name</source>
-        <translation>Nombre de la impresora</translation>
-    </message>
-    <message>
-        <source>Location label</source>
-        <translation>Etiqueta de la ubicación</translation>
     </message>
     <message>
         <source>&amp;Location:</source>
         <translation>&amp;Ubicación:</translation>
     </message>
     <message>
-        <source>Printer location</source>
-        <translation>Ubicación de la impresora</translation>
-    </message>
-    <message>
         <source>for example: Room 2.14</source>
         <translation>por ejemplo: sala 2.14</translation>
     </message>
     <message>
-        <source>Description label</source>
-        <translation>Etiqueta de la descripción</translation>
-    </message>
-    <message>
         <source>&amp;Description:</source>
         <translation>&amp;Descripción:</translation>
-    </message>
-    <message>
-        <source>Printer description</source>
-        <translation>Descripción de la impresora</translation>
     </message>
     <message>
         <source>for example: Laser printer by the window</source>
@@ -305,24 +233,12 @@
         <translation>&lt;p&gt;La impresora &lt;b&gt;%1&lt;/b&gt; se ha añadido.&lt;/p&gt;%4&lt;p&gt;Modelo: %2&lt;br&gt;Puerto: %3&lt;/p&gt;&lt;p&gt;Imprima una página de prueba para comprobar que todo funciona, o ajuste las opciones del controlador. Pulse &lt;b&gt;Finalizar&lt;/b&gt; para cerrar el asistente.&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>Summary</source>
-        <translation>Resumen</translation>
-    </message>
-    <message>
         <source>Print &amp;Test Page</source>
         <translation>Imprimir página de &amp;prueba</translation>
     </message>
     <message>
-        <source>Print a test page</source>
-        <translation>Imprimir una página de prueba</translation>
-    </message>
-    <message>
         <source>Driver &amp;Options...</source>
         <translation>&amp;Opciones del controlador...</translation>
-    </message>
-    <message>
-        <source>Driver options</source>
-        <translation>Opciones del controlador</translation>
     </message>
 </context>
 <context>
@@ -457,6 +373,10 @@ Use esta dirección:
         <source>&amp;Cancel</source>
         <translation>&amp;Cancelar</translation>
     </message>
+    <message>
+        <source>Driver options</source>
+        <translation>Opciones del controlador</translation>
+    </message>
 </context>
 <context>
     <name>PPDNumericViewBase</name>
@@ -476,12 +396,23 @@ Use esta dirección:
         <source>max</source>
         <translation>máx.</translation>
     </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
 </context>
 <context>
     <name>PPDOptionView</name>
     <message>
         <source>No option selected</source>
         <translation>Ninguna opción seleccionada</translation>
+    </message>
+</context>
+<context>
+    <name>PPDTree::BaseItem</name>
+    <message>
+        <source>%1, in conflict</source>
+        <translation>%1, en conflicto</translation>
     </message>
 </context>
 <context>

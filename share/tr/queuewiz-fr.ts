@@ -105,10 +105,6 @@
         <translation>Cet assistant installe une nouvelle imprimante sur cet ordinateur en quelques étapes.</translation>
     </message>
     <message>
-        <source>Introduction</source>
-        <translation>Présentation</translation>
-    </message>
-    <message>
         <source>&lt;p&gt;The wizard will ask you for:&lt;/p&gt;&lt;ol&gt;&lt;li&gt;how the printer is attached: by cable, over the network, or not yet connected,&lt;/li&gt;&lt;li&gt;the printer model, so that the right driver is used,&lt;/li&gt;&lt;li&gt;a name for the new printer.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;It then adds the printer, makes it your default printer and lets you print a test page.&lt;/p&gt;&lt;p&gt;Click &lt;b&gt;Next&lt;/b&gt; to begin.&lt;/p&gt;</source>
         <translation>&lt;p&gt;L&apos;assistant va vous demander&#xa0;:&lt;/p&gt;&lt;ol&gt;&lt;li&gt;comment l&apos;imprimante est raccordée&#xa0;: par câble, par le réseau, ou pas encore branchée&#xa0;;&lt;/li&gt;&lt;li&gt;le modèle de l&apos;imprimante, afin d&apos;utiliser le bon pilote&#xa0;;&lt;/li&gt;&lt;li&gt;un nom pour la nouvelle imprimante.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;Il ajoute ensuite l&apos;imprimante, en fait votre imprimante par défaut et vous propose d&apos;imprimer une page de test.&lt;/p&gt;&lt;p&gt;Cliquez sur &lt;b&gt;Suivant&lt;/b&gt; pour commencer.&lt;/p&gt;</translation>
     </message>
@@ -129,48 +125,20 @@
         <translation>Imprimante &amp;locale, branchée par câble USB ou parallèle</translation>
     </message>
     <message>
-        <source>Local printer</source>
-        <translation>Imprimante locale</translation>
-    </message>
-    <message>
         <source>&amp;Printer:</source>
         <translation>&amp;Imprimante&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Local printer list label</source>
-        <translation>Étiquette de la liste des imprimantes locales</translation>
-    </message>
-    <message>
-        <source>Local printers</source>
-        <translation>Imprimantes locales</translation>
     </message>
     <message>
         <source>Net&amp;work printer</source>
         <translation>Imprimante &amp;réseau</translation>
     </message>
     <message>
-        <source>Network printer</source>
-        <translation>Imprimante réseau</translation>
-    </message>
-    <message>
         <source>P&amp;rinter found:</source>
         <translation>Imprimante tr&amp;ouvée&#xa0;:</translation>
     </message>
     <message>
-        <source>Network printer list label</source>
-        <translation>Étiquette de la liste des imprimantes réseau</translation>
-    </message>
-    <message>
-        <source>Network printers</source>
-        <translation>Imprimantes réseau</translation>
-    </message>
-    <message>
         <source>&amp;Search Network</source>
         <translation>Re&amp;chercher sur le réseau</translation>
-    </message>
-    <message>
-        <source>Search the network for printers</source>
-        <translation>Rechercher des imprimantes sur le réseau</translation>
     </message>
     <message>
         <source>Look for printers on the local network</source>
@@ -181,20 +149,12 @@
         <translation>&amp;Guide des imprimantes réseau...</translation>
     </message>
     <message>
-        <source>Help on network printers</source>
-        <translation>Aide sur les imprimantes réseau</translation>
-    </message>
-    <message>
         <source>How to connect a network printer and find its address</source>
         <translation>Comment raccorder une imprimante réseau et trouver son adresse</translation>
     </message>
     <message>
         <source>Printer not &amp;connected now: choose the port yourself</source>
         <translation>Imprimante &amp;non branchée pour le moment&#xa0;: choisir le port vous-même</translation>
-    </message>
-    <message>
-        <source>Printer not connected now</source>
-        <translation>Imprimante non branchée pour le moment</translation>
     </message>
     <message>
         <source>Printer picture</source>
@@ -207,10 +167,6 @@
     <message>
         <source>Choose the port the printer will use. For a network printer or a file, double-click its entry (or press F2) and type the address, for example socket://192.168.1.20.</source>
         <translation>Choisissez le port que l&apos;imprimante utilisera. Pour une imprimante réseau ou un fichier, double-cliquez sur son entrée (ou appuyez sur F2) et saisissez l&apos;adresse, par exemple socket://192.168.1.20.</translation>
-    </message>
-    <message>
-        <source>Ports label</source>
-        <translation>Étiquette des ports</translation>
     </message>
     <message>
         <source>&amp;Ports:</source>
@@ -229,10 +185,6 @@
         <translation>Choisissez le modèle de votre imprimante. La liste présente les pilotes de ce paquet.</translation>
     </message>
     <message>
-        <source>Printer models label</source>
-        <translation>Étiquette des modèles d&apos;imprimante</translation>
-    </message>
-    <message>
         <source>Printer &amp;models:</source>
         <translation>&amp;Modèles d&apos;imprimante&#xa0;:</translation>
     </message>
@@ -249,44 +201,20 @@
         <translation>Donnez à l&apos;imprimante un nom court (lettres, chiffres et tirets bas). L&apos;emplacement et la description sont facultatifs et aident les autres à la trouver.</translation>
     </message>
     <message>
-        <source>Printer name label</source>
-        <translation>Étiquette du nom de l&apos;imprimante</translation>
-    </message>
-    <message>
         <source>Printer n&amp;ame:</source>
         <translation>&amp;Nom de l&apos;imprimante&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Printer name</source>
-        <translation>Nom de l&apos;imprimante</translation>
-    </message>
-    <message>
-        <source>Location label</source>
-        <translation>Étiquette de l&apos;emplacement</translation>
     </message>
     <message>
         <source>&amp;Location:</source>
         <translation>&amp;Emplacement&#xa0;:</translation>
     </message>
     <message>
-        <source>Printer location</source>
-        <translation>Emplacement de l&apos;imprimante</translation>
-    </message>
-    <message>
         <source>for example: Room 2.14</source>
         <translation>par exemple&#xa0;: salle 2.14</translation>
     </message>
     <message>
-        <source>Description label</source>
-        <translation>Étiquette de la description</translation>
-    </message>
-    <message>
         <source>&amp;Description:</source>
         <translation>&amp;Description&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Printer description</source>
-        <translation>Description de l&apos;imprimante</translation>
     </message>
     <message>
         <source>for example: Laser printer by the window</source>
@@ -305,24 +233,12 @@
         <translation>&lt;p&gt;L&apos;imprimante &lt;b&gt;%1&lt;/b&gt; a été ajoutée.&lt;/p&gt;%4&lt;p&gt;Modèle&#xa0;: %2&lt;br&gt;Port&#xa0;: %3&lt;/p&gt;&lt;p&gt;Imprimez une page de test pour vérifier que tout fonctionne, ou réglez les options du pilote. Cliquez sur &lt;b&gt;Terminer&lt;/b&gt; pour fermer l&apos;assistant.&lt;/p&gt;</translation>
     </message>
     <message>
-        <source>Summary</source>
-        <translation>Résumé</translation>
-    </message>
-    <message>
         <source>Print &amp;Test Page</source>
         <translation>&amp;Imprimer une page de test</translation>
     </message>
     <message>
-        <source>Print a test page</source>
-        <translation>Imprimer une page de test</translation>
-    </message>
-    <message>
         <source>Driver &amp;Options...</source>
         <translation>&amp;Options du pilote...</translation>
-    </message>
-    <message>
-        <source>Driver options</source>
-        <translation>Options du pilote</translation>
     </message>
 </context>
 <context>
@@ -457,6 +373,10 @@ Utilisez cette adresse&#xa0;:
         <source>&amp;Cancel</source>
         <translation>&amp;Annuler</translation>
     </message>
+    <message>
+        <source>Driver options</source>
+        <translation>Options du pilote</translation>
+    </message>
 </context>
 <context>
     <name>PPDNumericViewBase</name>
@@ -476,12 +396,23 @@ Utilisez cette adresse&#xa0;:
         <source>max</source>
         <translation>max.</translation>
     </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
 </context>
 <context>
     <name>PPDOptionView</name>
     <message>
         <source>No option selected</source>
         <translation>Aucune option sélectionnée</translation>
+    </message>
+</context>
+<context>
+    <name>PPDTree::BaseItem</name>
+    <message>
+        <source>%1, in conflict</source>
+        <translation>%1, en conflit</translation>
     </message>
 </context>
 <context>
