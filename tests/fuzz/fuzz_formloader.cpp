@@ -2,11 +2,11 @@
 // byte picks the page-title loader (the form set up as a page title) or the
 // wizard's loader (the form loaded as the wizard, with the installed title
 // form on its pages); the rest is the form.
+#include "offscreenapp.h"
 #include "queuewizuiloader.h"
 #include "wizardpagetitle.h"
 #include "wizardpagetitleuiloader.h"
 
-#include <QApplication>
 #include <QBuffer>
 #include <QByteArray>
 
@@ -17,15 +17,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static int argc = 1;
-    static char name[] = "fuzz_formloader";
-    static char *argv[] = { name, nullptr };
-    static QApplication *app = [] {
-        setenv("QT_QPA_PLATFORM", "offscreen", 0);
-        qputenv("QT_LOGGING_RULES", "*.warning=false");
-        return new QApplication(argc, argv);
-    }();
-    (void)app;
+    ensureOffscreenApplication("fuzz_formloader");
     if (size < 1)
         return 0;
 

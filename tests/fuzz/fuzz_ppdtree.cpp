@@ -1,12 +1,11 @@
 // A driver file of any content as the options dialog shows it: libcups reads
 // it, the option tree walks its groups, options and choices, and the
 // conflicts among the default choices are named.
+#include "offscreenapp.h"
 #include "ppdtreebaseitem.h"
 #include "ppdtreeview.h"
 
 #include <cups/ppd.h>
-
-#include <QApplication>
 
 #include <cstddef>
 #include <cstdint>
@@ -28,14 +27,7 @@ void walkItems(PPDTree::BaseItem *item, const QPalette &palette)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static int argc = 1;
-    static char name[] = "fuzz_ppdtree";
-    static char *argv[] = { name, nullptr };
-    static QApplication *app = [] {
-        setenv("QT_QPA_PLATFORM", "offscreen", 0);
-        return new QApplication(argc, argv);
-    }();
-    (void)app;
+    ensureOffscreenApplication("fuzz_ppdtree");
 
     // libcups reads a PPD through a file descriptor, which a memory stream
     // does not have.
