@@ -2,11 +2,11 @@
 
 #include <cstring>
 
-std::vector<option> CommandLineOptions::longOptionTable(const char *spec, std::vector<char> &buffer)
+std::vector<option> CommandLineOptions::longOptionTable(const char *optionString, std::vector<char> &buffer)
 {
     enum { BufferSize = 1024 };
     buffer.assign(BufferSize, '\0');
-    strncpy(buffer.data(), spec ? spec : "", BufferSize - 1);
+    strncpy(buffer.data(), optionString ? optionString : "", BufferSize - 1);
 
     std::vector<option> table;
     char *token = buffer.data();
@@ -34,10 +34,10 @@ std::vector<option> CommandLineOptions::longOptionTable(const char *spec, std::v
 }
 
 CommandLineOptions::CommandLineOptions(int argc, char **argv, const char *shortOptions,
-                                       const char *longSpec)
+                                       const char *longOptions)
 {
     std::vector<char> names;
-    const std::vector<option> table = longOptionTable(longSpec, names);
+    const std::vector<option> table = longOptionTable(longOptions, names);
 
     // 0, not 1: glibc then also forgets the state of an earlier scan.
     optind = 0;

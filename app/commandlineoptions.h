@@ -13,7 +13,7 @@
 class CommandLineOptions
 {
 public:
-    CommandLineOptions(int argc, char **argv, const char *shortOptions, const char *longSpec);
+    CommandLineOptions(int argc, char **argv, const char *shortOptions, const char *longOptions);
     virtual ~CommandLineOptions();
 
     virtual void insert(const QString &key, const QString &value);
@@ -25,10 +25,10 @@ public:
     const QList<QString> &arguments() const { return m_arguments; }
     QString toString() const;
 
-    // getopt_long's table for a compact specification such as
+    // getopt_long's table for a compact option string such as
     // "ui:|res:|help=h": "name[:|::][=c]" tokens separated by "|".
     // The names point into buffer, which must outlive the table.
-    static std::vector<option> longOptionTable(const char *spec, std::vector<char> &buffer);
+    static std::vector<option> longOptionTable(const char *optionString, std::vector<char> &buffer);
 
 private:
     QMap<QString, QString> m_options;

@@ -273,7 +273,11 @@ bool CUPSManager::addClass(const CUPSClass &cls)
     request.addURI("printer-uri", classUri(cls.Name()).toUtf8().constData());
     request.addText("printer-location", cls.Location().toUtf8().constData());
     request.addText("printer-info", cls.Info().toUtf8().constData());
-    request.addInteger("printer-state", cls.State(), IPP_TAG_ENUM);
+    // The scheduler takes only idle or stopped here and refuses the whole
+    // request otherwise. A class that is printing is running: idle to it.
+    const int state = cls.State() == IPP_PSTATE_PROCESSING ? int(IPP_PSTATE_IDLE) : cls.State();
+    if (state == IPP_PSTATE_IDLE || state == IPP_PSTATE_STOPPED)
+        request.addInteger("printer-state", state, IPP_TAG_ENUM);
     request.addBoolean("printer-is-accepting-jobs", cls.AcceptingJobs());
     request.addURIList("member-uris", members);
     return sendChecked(request);

@@ -30,6 +30,15 @@ QStringList &candidateTable()
     return table;
 }
 
+// One shell word that the shell takes literally: inside single quotes
+// nothing is special but the quote itself, which is closed, escaped, reopened.
+QString shellQuoted(const QString &text)
+{
+    QString quoted = text;
+    quoted.replace(QLatin1Char('\''), QLatin1String("'\\''"));
+    return QLatin1Char('\'') + quoted + QLatin1Char('\'');
+}
+
 } // namespace
 
 QStringList BrowserLauncher::candidates()
@@ -61,8 +70,9 @@ void BrowserLauncher::launch(const QString &address, QWidget *parent)
     }
 
     // Through the shell and in the background, so the wizard never waits
-    // for the browser. The address is not quoted.
-    const QByteArray command = QStringLiteral("%1 %2 &").arg(browser, address).toLocal8Bit();
+    // for the browser. Both words are quoted: the help page lies under the
+    // install prefix, which may hold blanks or characters the shell reads.
+    const QByteArray command = QStringLiteral("%1 %2 &").arg(shellQuoted(browser), shellQuoted(address)).toLocal8Bit();
     if (std::system(command.constData()) == -1) {
         qWarning("Unable to execute command %s", command.constData());
         QMessageBox::warning(parent, tr("About"), tr("Error starting %1").arg(browser));

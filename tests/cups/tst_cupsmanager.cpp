@@ -195,6 +195,35 @@ private slots:
         QVERIFY(manager.findPrinter(u"mate"_s, renamed));
     }
 
+    // A member leaves a class whose record goes back in the state it was
+    // listed in; the scheduler refuses a class record that says printing.
+    void classKeepsItsState_data()
+    {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<QString>("listed");
+        QTest::newRow("idle") << int(IPP_PSTATE_IDLE) << u"idle, accepting jobs"_s;
+        QTest::newRow("printing") << int(IPP_PSTATE_PROCESSING) << u"idle, accepting jobs"_s;
+        QTest::newRow("stopped") << int(IPP_PSTATE_STOPPED) << u"stopped, accepting jobs"_s;
+    }
+
+    void classKeepsItsState()
+    {
+        QFETCH(int, state);
+        QFETCH(QString, listed);
+        QVERIFY(manager.addPrinter(newPrinter(u"stays"_s)) && manager.addPrinter(newPrinter(u"leaves"_s)));
+        CUPSClass cls(u"busy"_s);
+        cls.setState(state);
+        cls.setAcceptingJobs(true);
+        cls.setMemberNames({"stays", "leaves"});
+        QVERIFY2(manager.addClass(cls), qPrintable(manager.lastStatusText()));
+        QVERIFY2(manager.deletePrinter(u"leaves"_s), qPrintable(manager.lastStatusText()));
+        QMap<QString, CUPSClass> classes;
+        QVERIFY(manager.listClasses(classes));
+        QCOMPARE(classes.value(u"busy"_s).MemberNames().join(' ') + ", " + classes.value(u"busy"_s).stateText(),
+                 "stays, " + listed);
+        QVERIFY(manager.deleteClass(u"busy"_s));
+    }
+
     void driverCatalogue_data()
     {
         QTest::addColumn<QString>("filter"); // "-": the OEM vendor

@@ -1,5 +1,5 @@
-// The compact option specification and a command line parsed with it: the
-// first NUL-separated word is the specification, the rest the arguments.
+// The compact option string and a command line parsed with it: the first
+// NUL-separated word is the option string, the rest the arguments.
 #include "commandlineoptions.h"
 
 #include <cstddef>

@@ -121,6 +121,9 @@ private slots:
             << QStringList{ "ip: 192.0.2.20 slp: 1,1,1,1 snmp: 0,0,0 dsc: \"Acme One\"" };
         QTest::newRow("service name until ty arrives")
             << QStringList{ "d" + raw } << QStringList{ "ip: 192.0.2.20 slp: 1,0,0,1 snmp: 0,0,0 dsc: \"Acme One\"" };
+        QTest::newRow("_printer._tcp on port 0 is no LPD")
+            << QStringList{ "d" + ipp, "d" + QString(lpd).replace(";515;", ";0;") }
+            << QStringList{ "ip: 192.0.2.20 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Acme One\"" };
         QTest::newRow("SNMP only")
             << QStringList{ "snetwork socket://192.0.2.30 \"Globex Jet\" \"x\" \"MFG:G;\" \"\"" }
             << QStringList{ "ip: 192.0.2.30 slp: 0,0,0,0 snmp: 1,1,1 dsc: \"Globex Jet\"" };

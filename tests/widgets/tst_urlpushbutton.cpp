@@ -26,19 +26,30 @@ private slots:
     void init() { TestSupport::failOnWarnings(); }
     void cleanup() { BrowserLauncher::setCandidates({}); }
 
-    // The first browser that exists is started; the address reaches the
-    // shell unquoted, so a blank splits it.
+    // The first browser that exists is started with the address as one
+    // word, whatever the shell would read in either.
+    void buttonOpensItsAddress_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::newRow("blank") << "file:///opt/help page.htm";
+        QTest::newRow("shell characters") << "file:///opt/it's $(id) `id` $HOME;|&<>*\\.htm";
+    }
+
     void buttonOpensItsAddress()
     {
-        BrowserLauncher::setCandidates({path("missing"), fakeBrowser("first"), fakeBrowser("second")});
+        QFETCH(QString, address);
+        QFile::remove(path("out"));
+        BrowserLauncher::setCandidates({path("missing"), fakeBrowser("first $x'"), fakeBrowser("second")});
         URLPushButton button(nullptr, "HelpButton");
         QCOMPARE(button.objectName(), QStringLiteral("HelpButton"));
-        QVERIFY(button.setProperty("url", QStringLiteral("file:///opt/help page.htm")));
+        QVERIFY(button.setProperty("url", address));
         button.show();
         QVERIFY(QTest::qWaitForWindowExposed(&button));
         QTest::mouseClick(&button, Qt::LeftButton);
         QTRY_VERIFY(QFile::exists(path("out")));
-        QCOMPARE(QString::fromLocal8Bit(TestSupport::readFile(path("out"))), path("first") + "\nfile:///opt/help\npage.htm\n");
+        QCOMPARE(QString::fromLocal8Bit(TestSupport::readFile(path("out"))), path("first $x'") + "
+" + address + "
+");
     }
 
     void noBrowserTellsTheAddress()

@@ -28,7 +28,9 @@ NetworkPrinter &NetworkPrinterList::printerFor(const QString &address)
 
 void NetworkPrinterList::add(const DnsSdService &service)
 {
-    if (!isUsableAddress(service.address))
+    // Port 0 only holds the name: a printer without LPD announces
+    // "_printer._tcp" so. Such a record offers no service at all.
+    if (service.port <= 0 || !isUsableAddress(service.address))
         return;
     const QString type = service.type.toLower();
     NetworkPrinter &p = printerFor(service.address);
