@@ -47,9 +47,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(&button));
         QTest::mouseClick(&button, Qt::LeftButton);
         QTRY_VERIFY(QFile::exists(path("out")));
-        QCOMPARE(QString::fromLocal8Bit(TestSupport::readFile(path("out"))), path("first $x'") + "
-" + address + "
-");
+        QCOMPARE(QString::fromLocal8Bit(TestSupport::readFile(path("out"))), path("first $x'") + "\n" + address + "\n");
     }
 
     void noBrowserTellsTheAddress()
