@@ -151,14 +151,19 @@ bool IppFaultProxy::takeRule(int operation, Rule *rule)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     m_operations << operation;
-    for (auto it = m_rules.begin(); it != m_rules.end(); ++it) {
-        if (it->operation == operation && --it->remaining == 0) {
+    // Every rule counts every request of its operation, so that "the 5th"
+    // means the 5th also after another rule fired on the 4th.
+    bool faulted = false;
+    for (auto it = m_rules.begin(); it != m_rules.end();) {
+        if (it->operation == operation && --it->remaining == 0 && !faulted) {
             *rule = *it;
-            m_rules.erase(it);
-            return true;
+            faulted = true;
+            it = m_rules.erase(it);
+            continue;
         }
+        ++it;
     }
-    return false;
+    return faulted;
 }
 
 void IppFaultProxy::run()

@@ -158,9 +158,10 @@ private slots:
         QTest::newRow("Letter country, A4 driver") << QByteArray("es_MX.UTF-8") << ColorLaser << "Letter" << "";
         QTest::newRow("A4 country, Letter driver") << QByteArray("de_DE.UTF-8") << Laser << "A4" << "";
         QTest::newRow("A4 country, A4 driver") << QByteArray("de_DE.UTF-8") << ColorLaser << "A4" << "";
-        // lpadmin's upload is the fourth CUPS-Add-Modify-Printer.
+        // lpadmin's upload is the fourth CUPS-Add-Modify-Printer, the
+        // wizard's own upload of the changed driver the fifth.
         QTest::newRow("paper and default refused")
-            << QByteArray("es_MX.UTF-8") << ColorLaser << "Letter" << "16387 4 F 1280;16394 1 F 1025";
+            << QByteArray("es_MX.UTF-8") << ColorLaser << "Letter" << "16387 4 F 1280;16387 5 F 1280;16394 1 F 1025";
     }
 
     // lpadmin runs only when the driver's default is not the country's
