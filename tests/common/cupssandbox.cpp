@@ -1,12 +1,12 @@
 #include "cupssandbox.h"
 
 #include "testpaths.h"
+#include "testsupport.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <cups/cups.h>
@@ -17,27 +17,21 @@ namespace {
 
 QString readTrimmed(const QString &fileName)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return QString();
-    return QString::fromUtf8(file.readAll()).trimmed();
+    return QString::fromUtf8(TestSupport::readFile(fileName)).trimmed();
 }
 
+// The port of "localhost:PORT"; 0 for anything else.
 int portOf(const QString &server)
 {
-    const int colon = server.lastIndexOf(QLatin1Char(':'));
-    if (colon < 0)
-        return 0;
-    bool ok = false;
-    const int port = server.mid(colon + 1).toInt(&ok);
-    return ok && port > 0 && port < 65536 ? port : 0;
+    const int port = server.startsWith(QLatin1String("localhost:")) ? server.mid(10).toInt() : 0;
+    return port < 65536 ? port : 0;
 }
 
 // True when something accepts HTTP connections on the loopback port.
 bool answers(int port)
 {
     std::unique_ptr<http_t, decltype(&httpClose)> http(
-        httpConnect2("localhost", port, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_NEVER, 1, 5000, nullptr),
+        port ? httpConnect2("localhost", port, nullptr, AF_UNSPEC, HTTP_ENCRYPTION_NEVER, 1, 5000, nullptr) : nullptr,
         &httpClose);
     return http != nullptr;
 }
@@ -84,12 +78,7 @@ bool CupsSandbox::useShared(QString *error)
                             .arg(dir));
         return false;
     }
-    const int port = portOf(server);
-    if (port == 0) {
-        setError(error, QStringLiteral("%1/server holds no \"localhost:PORT\" but \"%2\".").arg(dir, server));
-        return false;
-    }
-    if (!answers(port)) {
+    if (!answers(portOf(server))) {
         setError(error, QStringLiteral("The shared CUPS sandbox at %1 does not answer; see %2/log/error_log.")
                             .arg(server, dir));
         return false;
@@ -112,28 +101,11 @@ void CupsSandbox::pointClientAt(const QString &server, const QString &clientRoot
 
 int CupsSandbox::run(const QStringList &command, QString *output, int timeoutMs)
 {
+    const TestSupport::Run r = TestSupport::run(command.value(0), command.mid(1),
+                                                QProcessEnvironment::systemEnvironment(), QByteArray(), timeoutMs);
     if (output)
-        output->clear();
-    if (command.isEmpty())
-        return -1;
-    QProcess process;
-    process.start(command.first(), command.mid(1));
-    if (!process.waitForStarted()) {
-        if (output)
-            *output = process.errorString();
-        return -1;
-    }
-    process.closeWriteChannel();
-    const bool finished = process.waitForFinished(timeoutMs);
-    if (!finished) {
-        process.kill();
-        process.waitForFinished();
-    }
-    if (output)
-        *output = QString::fromLocal8Bit(process.readAllStandardOutput() + process.readAllStandardError());
-    if (!finished || process.exitStatus() != QProcess::NormalExit)
-        return -1;
-    return process.exitCode();
+        *output = r.out + r.err;
+    return r.status;
 }
 
 bool CupsSandbox::start(QString *error)
@@ -244,10 +216,7 @@ QString CupsSandbox::socketPath() const
 
 QString CupsSandbox::errorLog() const
 {
-    QFile file(directory() + QStringLiteral("/log/error_log"));
-    if (!file.open(QIODevice::ReadOnly))
-        return QString();
-    return QString::fromLocal8Bit(file.readAll());
+    return QString::fromLocal8Bit(TestSupport::readFile(directory() + QStringLiteral("/log/error_log")));
 }
 
 void CupsSandbox::use() const

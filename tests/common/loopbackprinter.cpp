@@ -21,19 +21,9 @@ LoopbackPrinter::~LoopbackPrinter()
         socket->disconnect(this);
 }
 
-bool LoopbackPrinter::isListening() const
-{
-    return m_server.isListening();
-}
-
-int LoopbackPrinter::port() const
-{
-    return m_server.serverPort();
-}
-
 QString LoopbackPrinter::deviceUri() const
 {
-    return QStringLiteral("socket://127.0.0.1:%1").arg(port());
+    return QStringLiteral("socket://127.0.0.1:%1").arg(m_server.serverPort());
 }
 
 QByteArray LoopbackPrinter::waitForJob(int timeoutMs)
@@ -50,16 +40,6 @@ QByteArray LoopbackPrinter::waitForJob(int timeoutMs)
     if (m_returned >= m_jobs.size())
         return QByteArray();
     return m_jobs.at(m_returned++);
-}
-
-int LoopbackPrinter::jobCount() const
-{
-    return m_jobs.size();
-}
-
-QList<QByteArray> LoopbackPrinter::jobs() const
-{
-    return m_jobs;
 }
 
 void LoopbackPrinter::onNewConnection()

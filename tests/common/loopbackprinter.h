@@ -21,15 +21,11 @@ public:
     explicit LoopbackPrinter(QObject *parent = nullptr);
     ~LoopbackPrinter() override;
 
-    bool isListening() const;
-    int port() const;
     QString deviceUri() const;  // "socket://127.0.0.1:PORT"
 
     // The next job that no earlier call returned, waiting for it up to
     // timeoutMs; a null QByteArray when none completes in time.
     QByteArray waitForJob(int timeoutMs = 30000);
-    int jobCount() const;
-    QList<QByteArray> jobs() const;
 
 signals:
     void jobReceived(const QByteArray &data);

@@ -31,7 +31,8 @@ QByteArray readFile(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-Run run(const QString &program, const QStringList &args, const QProcessEnvironment &env, const QByteArray &input)
+Run run(const QString &program, const QStringList &args, const QProcessEnvironment &env, const QByteArray &input,
+        int timeoutMs)
 {
     QProcess process;
     process.setProcessEnvironment(env);
@@ -39,7 +40,7 @@ Run run(const QString &program, const QStringList &args, const QProcessEnvironme
     process.write(input);
     process.closeWriteChannel();
     Run result;
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
+    if (!process.waitForFinished(timeoutMs) || process.exitStatus() != QProcess::NormalExit) {
         process.kill();
         process.waitForFinished(5000);
         result.err = QStringLiteral("%1 did not end normally").arg(program);

@@ -32,10 +32,10 @@ struct Run
     QString out;
     QString err;
 };
-// Runs program to its end (60 s at most) in env, input on its standard input.
+// Runs program to its end (timeoutMs at most) in env, input on its standard input.
 Run run(const QString &program, const QStringList &args,
         const QProcessEnvironment &env = QProcessEnvironment::systemEnvironment(),
-        const QByteArray &input = QByteArray());
+        const QByteArray &input = QByteArray(), int timeoutMs = 60000);
 // This process's environment less the variables named.
 QProcessEnvironment environmentWithout(const QStringList &names);
 

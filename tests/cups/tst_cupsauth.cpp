@@ -3,6 +3,7 @@
 #include "ipplog.h"
 #include "ipprequest.h"
 #include "printercreator.h"
+#include "testsupport.h"
 
 #include <QFile>
 #include <QProcess>
@@ -35,12 +36,6 @@ bool scriptedAnswer(const QString &prompt, QString *user, QString *password)
         return false;
     *password = s_script.answers.takeFirst();
     return true;
-}
-
-QByteArray readAll(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 bool writeFile(const QString &path, const QByteArray &text, QFile::Permissions permissions)
@@ -181,7 +176,7 @@ private slots:
         IPPLog::flushAll();
         for (const IPPLog::Kind kind : {IPPLog::Request, IPPLog::Printer, IPPLog::Driver, IPPLog::Job, IPPLog::Class}) {
             for (const QString &answer : std::as_const(answers))
-                QVERIFY(!readAll(m_logs.filePath(IPPLog::fileName(kind))).contains(answer.toUtf8()));
+                QVERIFY(!TestSupport::readFile(m_logs.filePath(IPPLog::fileName(kind))).contains(answer.toUtf8()));
         }
     }
 

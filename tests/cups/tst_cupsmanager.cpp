@@ -29,10 +29,10 @@ CUPSPrinter newPrinter(const QString &name, const QString &ppd = QString())
     return printer;
 }
 
-bool addClass(const QString &name, const QStringList &members)
+bool addClass(const QString &name, const QStringList &members, int state = IPP_PSTATE_IDLE)
 {
     CUPSClass cls(name);
-    cls.setState(IPP_PSTATE_IDLE);
+    cls.setState(state);
     cls.setAcceptingJobs(true);
     cls.setMemberNames(members);
     return manager.addClass(cls);
@@ -211,11 +211,7 @@ private slots:
         QFETCH(int, state);
         QFETCH(QString, listed);
         QVERIFY(manager.addPrinter(newPrinter(u"stays"_s)) && manager.addPrinter(newPrinter(u"leaves"_s)));
-        CUPSClass cls(u"busy"_s);
-        cls.setState(state);
-        cls.setAcceptingJobs(true);
-        cls.setMemberNames({"stays", "leaves"});
-        QVERIFY2(manager.addClass(cls), qPrintable(manager.lastStatusText()));
+        QVERIFY2(addClass(u"busy"_s, {"stays", "leaves"}, state), qPrintable(manager.lastStatusText()));
         QVERIFY2(manager.deletePrinter(u"leaves"_s), qPrintable(manager.lastStatusText()));
         QMap<QString, CUPSClass> classes;
         QVERIFY(manager.listClasses(classes));

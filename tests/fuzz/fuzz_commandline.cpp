@@ -1,14 +1,12 @@
 // The compact option string and a command line parsed with it: the first
 // NUL-separated word is the option string, the rest the arguments.
+#include "fuzztarget.h"
 #include "commandlineoptions.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+QW_FUZZ_TARGET
 {
     std::vector<std::string> words(1);
     for (size_t i = 0; i < size && words.size() < 32; ++i) {
@@ -19,8 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     }
     std::vector<char> names;
     const std::vector<option> table = CommandLineOptions::longOptionTable(words[0].c_str(), names);
-    if (table.empty() || table.back().name != nullptr)
-        abort();
+    require(!table.empty() && table.back().name == nullptr);
 
     std::vector<std::string> args = { "queuewiz" };
     args.insert(args.end(), words.begin() + 1, words.end());

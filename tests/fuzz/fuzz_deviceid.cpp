@@ -1,12 +1,9 @@
 // IEEE 1284 device IDs as printers report them: field look-up, fitting into
 // the record's field, and the parallel port's autoprobe text. Output buffers
 // sit between guard bytes that must stay untouched.
+#include "fuzztarget.h"
 #include "mfpinternal.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <cstring>
 #include <string>
 
 namespace {
@@ -25,16 +22,14 @@ struct Guarded
     void check() const
     {
         for (size_t i = 0; i < 16; ++i)
-            if (before[i] != 0x5a || after[i] != 0x5a)
-                abort();
-        if (!memchr(buf, '\0', N))
-            abort();
+            require(before[i] == 0x5a && after[i] == 0x5a);
+        requireTerminated(buf);
     }
 };
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+QW_FUZZ_TARGET
 {
     const std::string id(reinterpret_cast<const char *>(data), size);
     static const char *const keys[] = { "MANUFACTURER", "MFG", "MODEL", "MDL", nullptr };

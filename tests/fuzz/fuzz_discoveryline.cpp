@@ -1,13 +1,11 @@
 // A line of the discovery program's output as the wizard reads it: the
 // record keeps its limits, and a URI comes exactly with a scheme.
+#include "fuzztarget.h"
 #include "networkdevicelist.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+QW_FUZZ_TARGET
 {
     if (size < 1)
         return 0;
@@ -23,13 +21,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const NetworkDeviceList::Device &d = list.at(0);
     // The limits are in bytes of the line; every byte makes at most one
     // character (a byte that is not text becomes a replacement character).
-    if (d.address.size() > NetworkDeviceList::AddressMax || d.description.size() > NetworkDeviceList::DescriptionMax)
-        abort();
-    if (d.isIPv6() && cupsVersion < 2)
-        abort();
+    require(d.address.size() <= NetworkDeviceList::AddressMax
+            && d.description.size() <= NetworkDeviceList::DescriptionMax);
+    require(!d.isIPv6() || cupsVersion >= 2);
     const QString uri = d.deviceUri();
-    if (uri.isEmpty() != d.uriScheme().isNull() || (!uri.isEmpty() && !uri.startsWith(d.uriScheme() + QLatin1String("://"))))
-        abort();
+    require(uri.isEmpty() == d.uriScheme().isNull()
+            && (uri.isEmpty() || uri.startsWith(d.uriScheme() + QLatin1String("://"))));
     (void)d.entryText();
     return 0;
 }

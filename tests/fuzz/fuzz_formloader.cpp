@@ -2,6 +2,7 @@
 // byte picks the page-title loader (the form set up as a page title) or the
 // wizard's loader (the form loaded as the wizard, with the installed title
 // form on its pages); the rest is the form.
+#include "fuzztarget.h"
 #include "offscreenapp.h"
 #include "queuewizuiloader.h"
 #include "wizardpagetitle.h"
@@ -10,12 +11,9 @@
 #include <QBuffer>
 #include <QByteArray>
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <memory>
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+QW_FUZZ_TARGET
 {
     ensureOffscreenApplication("fuzz_formloader");
     if (size < 1)
@@ -27,8 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (data[0] & 1) {
         QueuewizUiLoader loader(QStringLiteral(QW_FUZZ_TITLE_FORM));
         std::unique_ptr<QWidget> wizard(loader.loadAs(&form, QStringLiteral("AddPrinterWizard")));
-        if (loader.isBusy())
-            abort();
+        require(!loader.isBusy());
     } else {
         WizardPageTitleUiLoader *loader = WizardPageTitleUiLoader::registered();
         std::unique_ptr<WizardPageTitle> title(

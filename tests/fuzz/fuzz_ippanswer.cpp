@@ -1,6 +1,7 @@
 // An answer of the scheduler, any bytes that libcups reads as an IPP message,
 // walked the way the listings walk it: one record per attribute group, for
 // printers, classes, drivers and jobs alike, each attribute also logged.
+#include "fuzztarget.h"
 #include "cupsclass.h"
 #include "cupsdriver.h"
 #include "cupsjob.h"
@@ -10,10 +11,7 @@
 #include <cups/ipp.h>
 
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
 #include <cstdio>
-#include <cstring>
 
 namespace {
 
@@ -56,7 +54,7 @@ void walk(ipp_t *answer, Record fresh, Finish finish)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+QW_FUZZ_TARGET
 {
     Reader reader{ data, size };
     ipp_t *answer = ippNew();

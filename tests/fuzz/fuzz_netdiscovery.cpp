@@ -1,16 +1,13 @@
 // The parsers of the discovery engines' output, and the description clean-up
 // whose result must fit the wizard's reader: no double quote, at most 95
 // bytes of UTF-8.
+#include "fuzztarget.h"
 #include "dnssdservice.h"
 #include "networkprinter.h"
 #include "networkprinterlist.h"
 #include "snmpdevice.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+QW_FUZZ_TARGET
 {
     const QString line = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<int>(size));
     NetworkPrinterList list;
@@ -21,11 +18,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (SnmpDevice::parse(line, &device))
         list.add(device);
     for (const QString &out : list.lines())
-        if (out.count(QLatin1Char('"')) != 2 || out.contains(QLatin1Char('\n')))
-            abort();
+        require(out.count(QLatin1Char('"')) == 2 && !out.contains(QLatin1Char('\n')));
 
     const QString clean = NetworkPrinter::cleanDescription(line);
-    if (clean.contains(QLatin1Char('"')) || clean.toUtf8().size() > 95)
-        abort();
+    require(!clean.contains(QLatin1Char('"')) && clean.toUtf8().size() <= 95);
     return 0;
 }

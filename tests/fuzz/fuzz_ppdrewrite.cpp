@@ -1,13 +1,11 @@
 // The rewrite of a PPD's "*Default" lines on any file content: lines of any
 // length, line ends of any kind, NUL bytes.
+#include "fuzztarget.h"
 #include "ppddialog.h"
 
 #include <cups/ppd.h>
 
-#include <cstddef>
-#include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 
 namespace {
 
@@ -16,8 +14,7 @@ ppd_file_t *samplePpd()
     static ppd_file_t *ppd = [] {
         const char *path = getenv("QW_FUZZ_PPD");
         ppd_file_t *p = ppdOpenFile(path ? path : QW_FUZZ_DEFAULT_PPD);
-        if (!p)
-            abort();
+        require(p != nullptr);
         ppdMarkDefaults(p);
         return p;
     }();
@@ -26,7 +23,7 @@ ppd_file_t *samplePpd()
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+QW_FUZZ_TARGET
 {
     FILE *in = fmemopen(const_cast<uint8_t *>(data), size, "rb");
     if (!in)

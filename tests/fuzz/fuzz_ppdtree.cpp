@@ -1,15 +1,13 @@
 // A driver file of any content as the options dialog shows it: libcups reads
 // it, the option tree walks its groups, options and choices, and the
 // conflicts among the default choices are named.
+#include "fuzztarget.h"
 #include "offscreenapp.h"
 #include "ppdtreebaseitem.h"
 #include "ppdtreeview.h"
 
 #include <cups/ppd.h>
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -25,17 +23,14 @@ void walkItems(PPDTree::BaseItem *item, const QPalette &palette)
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+QW_FUZZ_TARGET
 {
     ensureOffscreenApplication("fuzz_ppdtree");
 
     // libcups reads a PPD through a file descriptor, which a memory stream
     // does not have.
     const int fd = memfd_create("ppd", 0);
-    if (fd < 0)
-        abort();
-    if (write(fd, data, size) != static_cast<ssize_t>(size) || lseek(fd, 0, SEEK_SET) != 0)
-        abort();
+    require(fd >= 0 && write(fd, data, size) == static_cast<ssize_t>(size) && lseek(fd, 0, SEEK_SET) == 0);
     ppd_file_t *ppd = ppdOpenFd(fd);
     close(fd);
     if (!ppd)

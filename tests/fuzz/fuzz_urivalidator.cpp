@@ -1,12 +1,9 @@
 // Every scheme's validator, with and without IPv6, on any text: no crash,
 // and the repaired text is stable under a second validation.
+#include "fuzztarget.h"
 #include "urivalidator.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+QW_FUZZ_TARGET
 {
     if (size < 1)
         return 0;
@@ -16,11 +13,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     UriValidator validator(scheme, ipv6);
     int pos = static_cast<int>(text.size());
     const QValidator::State first = validator.validate(text, pos);
-    if (pos < 0 || pos > text.size() + 64)
-        abort();
+    require(pos >= 0 && pos <= text.size() + 64);
     QString again = text;
     int pos2 = static_cast<int>(again.size());
-    if (validator.validate(again, pos2) != first || again != text)
-        abort();
+    require(validator.validate(again, pos2) == first && again == text);
     return 0;
 }

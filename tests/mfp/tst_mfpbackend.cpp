@@ -10,15 +10,8 @@ namespace {
 
 const QStringList jobArguments{"42", "alice", "title", "1", "opts"};
 
-QString mfpBackend()
-{
-    return TestPaths::binaryDir() + QStringLiteral("/mfp/backend/mfp");
-}
-
-QString fakeBackend()
-{
-    return TestPaths::binaryDir() + QStringLiteral("/tests/mfp/mfp-fakebackend");
-}
+const QString mfpBackend = TestPaths::binaryDir() + QStringLiteral("/mfp/backend/mfp");
+const QString fakeBackend = TestPaths::binaryDir() + QStringLiteral("/tests/mfp/mfp-fakebackend");
 
 } // namespace
 
@@ -38,15 +31,15 @@ class TestMfpBackend : public QObject
         env.insert(QStringLiteral("MFP_SYSROOT"), m_root.path());
         env.insert(QStringLiteral("CUPS_SERVERBIN"), serverBin.isNull() ? m_serverBin.path() : serverBin);
         env.insert(QStringLiteral("DEVICE_URI"), uri);
-        return TestSupport::run(mfpBackend(), args, env, input);
+        return TestSupport::run(mfpBackend, args, env, input);
     }
 
 private slots:
     void initTestCase()
     {
-        QVERIFY(QFileInfo(mfpBackend()).isExecutable());
+        QVERIFY(QFileInfo(mfpBackend).isExecutable());
         QVERIFY(QDir().mkpath(m_serverBin.filePath(QStringLiteral("backend"))));
-        QVERIFY(QFile::copy(fakeBackend(), m_serverBin.filePath(QStringLiteral("backend/parallel"))));
+        QVERIFY(QFile::copy(fakeBackend, m_serverBin.filePath(QStringLiteral("backend/parallel"))));
     }
 
     // The scheduler's own backend for the device gets the job on stdin and
@@ -98,8 +91,8 @@ private slots:
     void scheduler()
     {
         CupsSandbox sandbox;
-        QVERIFY(sandbox.addBackend(QStringLiteral("mfp"), mfpBackend()));
-        QVERIFY(sandbox.addBackend(QStringLiteral("usb"), fakeBackend()));
+        QVERIFY(sandbox.addBackend(QStringLiteral("mfp"), mfpBackend));
+        QVERIFY(sandbox.addBackend(QStringLiteral("usb"), fakeBackend));
         sandbox.setEnv(QStringLiteral("MFP_SYSROOT"), m_root.path());
         QString output;
         QVERIFY2(sandbox.start(&output), qPrintable(output));

@@ -1,7 +1,5 @@
 #include "cupssandbox.h"
-#include "loopbackprinter.h"
 #include "testpaths.h"
-#include "testqueue.h"
 #include "testsupport.h"
 
 #include <QDir>
@@ -98,28 +96,6 @@ private slots:
             ppdMarkOption(file.get(), option.constData(), choice.constData());
         }
         QCOMPARE(ppdConflicts(file.get()) > 0, conflict);
-    }
-
-    // PostScript passes through the sample driver's filter chain to a
-    // socket printer, with the code of the option given to lp.
-    void jobReachesSocketPrinter()
-    {
-        LoopbackPrinter printer;
-        const TestQueue queue(QStringLiteral("sandbox_job_%1").arg(QCoreApplication::applicationPid()),
-                              printer.deviceUri(), QStringLiteral("acme-laser1610.ppd"));
-        QVERIFY2(queue.isMade(), qPrintable(queue.error()));
-        QTemporaryDir dir;
-        const QString document = dir.filePath(QStringLiteral("document"));
-        QVERIFY(TestSupport::writeFile(document, "%!PS-Adobe-3.0\n%%Pages: 1\n%%EndComments\n%%Page: 1 1\n"
-                                                 "/Helvetica findfont 24 scalefont setfont 72 700 moveto "
-                                                 "(qw-marker) show showpage\n%%EOF\n"));
-        QString output;
-        QVERIFY2(CupsSandbox::run({"lp", "-d", queue.name(), "-o", "TonerSave=True", document}, &output) == 0,
-                 qPrintable(output));
-
-        const QByteArray data = printer.waitForJob(120000);
-        QVERIFY2(data.startsWith("%!PS") && data.contains("(qw-marker) show"), data.left(400).constData());
-        QVERIFY(data.contains("AcmeTonerSave true"));
     }
 
     void privateSchedulersStopIndependentlyAndCompletely()

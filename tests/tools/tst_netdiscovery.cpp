@@ -3,8 +3,8 @@
 #include "networkprinterlist.h"
 #include "snmpdevice.h"
 #include "testpaths.h"
+#include "testsupport.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -27,21 +27,15 @@ private:
         QString errors;
     };
 
-    Run run(const QString &avahi, const QString &snmp, const QStringList &args = {})
+    static Run run(const QString &avahi, const QString &snmp, const QStringList &args = {})
     {
-        QProcess p;
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert("NETDISCOVERY_AVAHI_BROWSE", avahi);
         env.insert("NETDISCOVERY_SNMP_BACKEND", snmp);
-        p.setProcessEnvironment(env);
-        p.start(TestPaths::binaryDir() + "/tools/netdiscovery/netdiscovery", args);
-        if (!p.waitForFinished(20000)) {
-            p.kill();
-            return { -1, {}, "did not end" };
-        }
-        QStringList lines = QString::fromUtf8(p.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+        const TestSupport::Run r = TestSupport::run(TestPaths::binaryDir() + "/tools/netdiscovery/netdiscovery", args, env);
+        QStringList lines = r.out.split('\n', Qt::SkipEmptyParts);
         lines.removeIf([](const QString &l) { return l.startsWith('#'); });
-        return { p.exitCode(), lines, QString::fromLocal8Bit(p.readAllStandardError()) };
+        return { r.status, lines, r.err };
     }
 
 private slots:
@@ -94,7 +88,6 @@ private slots:
                                    << "lpd|2001:db8::7|X|";
         QTest::newRow("not network") << "direct usb://Acme/Laser \"A\" \"B\" \"\" \"\"" << false << "";
         QTest::newRow("no host") << "network socket:// \"A\"" << false << "";
-        QTest::newRow("empty") << "" << false << "";
     }
 
     void snmpLine()

@@ -26,7 +26,6 @@ private slots:
         QTest::addColumn<int>("size");
         QTest::newRow("letter") << "na_letter_8.5x11in" << int(QPageSize::Letter);
         QTest::newRow("a4") << "iso_a4_210x297mm" << int(QPageSize::A4);
-        QTest::newRow("legal") << "na_legal_8.5x14in" << int(QPageSize::Legal);
         QTest::newRow("PPD name") << "Letter" << int(QPageSize::Letter);
         QTest::newRow("unknown keeps the fallback") << "om_small-photo_100x150mm" << int(QPageSize::B5);
     }
@@ -76,25 +75,19 @@ private slots:
         QTest::addColumn<QString>("message");
         QTest::newRow("unknown queue") << QStringList{ "no_such_queue" } << "there is no printer 'no_such_queue'";
         QTest::newRow("no argument") << QStringList{} << "usage: printertest QUEUE";
+        QTest::newRow("queue rejecting jobs") << QStringList{ "printertest_rejecting" } << "did not take the test page";
     }
 
     void failures()
     {
         QFETCH(QStringList, args);
         QFETCH(QString, message);
+        const TestQueue rejecting("printertest_rejecting", "socket://127.0.0.1:9", "acme-laser1610.ppd", false);
+        QVERIFY2(rejecting.isMade() && CupsSandbox::run({ "cupsreject", rejecting.name() }) == 0,
+                 qPrintable(rejecting.error()));
         const TestSupport::Run r = printertest(args);
         QCOMPARE(r.status, 0);
         QVERIFY2(r.err.contains(message), qPrintable(r.err));
-    }
-
-    void queueRejectingJobs()
-    {
-        const TestQueue queue("printertest_rejecting", "socket://127.0.0.1:9", "acme-laser1610.ppd", false);
-        QVERIFY2(queue.isMade(), qPrintable(queue.error()));
-        QCOMPARE(CupsSandbox::run({ "cupsreject", queue.name() }), 0);
-        const TestSupport::Run r = printertest({ queue.name() });
-        QCOMPARE(r.status, 0);
-        QVERIFY2(r.err.contains("did not take the test page"), qPrintable(r.err));
     }
 };
 
