@@ -36,28 +36,14 @@ bool readMore(int fd, std::string &into)
     return true;
 }
 
-void addAttribute(std::string &ipp, char tag, const std::string &name, const std::string &value)
-{
-    ipp += tag;
-    ipp += char(name.size() >> 8);
-    ipp += char(name.size() & 0xff);
-    ipp += name;
-    ipp += char(value.size() >> 8);
-    ipp += char(value.size() & 0xff);
-    ipp += value;
-}
-
-// An answer with status and nothing but the two attributes every answer has.
+// An answer with status and nothing but the two attributes every answer
+// has: charset (tag 0x47) and natural language (0x48), then the end tag.
 std::string errorAnswer(int status, const std::string &requestId)
 {
-    std::string ipp("\x02\x00", 2);
-    ipp += char(status >> 8);
-    ipp += char(status & 0xff);
-    ipp += requestId;
-    ipp += '\x01';
-    addAttribute(ipp, '\x47', "attributes-charset", "utf-8");
-    addAttribute(ipp, '\x48', "attributes-natural-language", "en");
-    ipp += '\x03';
+    static const char attributes[] = "\x01\x47\x00\x12" "attributes-charset" "\x00\x05" "utf-8"
+                                     "\x48\x00\x1b" "attributes-natural-language" "\x00\x02" "en" "\x03";
+    const std::string ipp = std::string("\x02\x00", 2) + char(status >> 8) + char(status & 0xff) + requestId
+        + std::string(attributes, sizeof attributes - 1);
     return "HTTP/1.1 200 OK\r\nContent-Type: application/ipp\r\nConnection: close\r\nContent-Length: "
         + std::to_string(ipp.size()) + "\r\n\r\n" + ipp;
 }
@@ -94,11 +80,6 @@ int connectLoopback(int port)
 
 } // namespace
 
-IppFaultProxy::IppFaultProxy(int upstreamPort)
-    : m_upstreamPort(upstreamPort)
-{
-}
-
 IppFaultProxy::~IppFaultProxy()
 {
     m_stopping = true;
@@ -129,28 +110,15 @@ bool IppFaultProxy::start()
     return true;
 }
 
-QString IppFaultProxy::server() const
-{
-    // Not "localhost": that may name ::1 first, where nobody listens.
-    return QStringLiteral("127.0.0.1:%1").arg(m_port);
-}
-
 void IppFaultProxy::fault(int operation, int nth, Action action, int value)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     m_rules.push_back({operation, nth, action, value});
 }
 
-QList<int> IppFaultProxy::operations() const
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    return m_operations;
-}
-
 bool IppFaultProxy::takeRule(int operation, Rule *rule)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    m_operations << operation;
     // Every rule counts every request of its operation, so that "the 5th"
     // means the 5th also after another rule fired on the 4th.
     bool faulted = false;

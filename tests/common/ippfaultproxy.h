@@ -1,7 +1,6 @@
 #ifndef QUEUEWIZ_IPPFAULTPROXY_H
 #define QUEUEWIZ_IPPFAULTPROXY_H
 
-#include <QList>
 #include <QString>
 
 #include <atomic>
@@ -12,30 +11,26 @@
 // Stands between a client under test and a scheduler on the loopback and
 // passes every request on, unless told to fault one request of a given IPP
 // operation: answer it with an error status, or stop the scheduler (SIGSTOP)
-// just before passing it on.
-//
-// It runs on a thread of its own: the client under test blocks the thread
-// it sends from, typically the GUI thread, until the answer or its timeout.
+// just before passing it on. It runs on a thread of its own: the client
+// under test blocks the thread it sends from until the answer or its timeout.
 class IppFaultProxy
 {
 public:
     enum Action { Fail, StopScheduler };
 
-    explicit IppFaultProxy(int upstreamPort);
+    explicit IppFaultProxy(int upstreamPort) : m_upstreamPort(upstreamPort) {}
     ~IppFaultProxy();
     IppFaultProxy(const IppFaultProxy &) = delete;
     IppFaultProxy &operator=(const IppFaultProxy &) = delete;
 
     // Listens on a free loopback port; false when none could be had.
     bool start();
-    QString server() const;  // "localhost:PORT"
+    QString server() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
 
     // Faults the nth request of operation from now on (1 the next one).
     // value: the IPP status for Fail, the scheduler's process id for
     // StopScheduler.
     void fault(int operation, int nth, Action action, int value = 0);
-    // The operation codes of the requests seen so far, in order.
-    QList<int> operations() const;
 
 private:
     struct Rule
@@ -46,11 +41,10 @@ private:
         int value;
     };
 
-    // One connection at a time is enough: the client under test waits for
-    // each answer, and every connection carries one request.
+    // One connection at a time: the client waits for each answer, and every
+    // connection carries one request.
     void run();
     void serve(int client);
-    // Whether a request of operation is to be faulted, and how.
     bool takeRule(int operation, Rule *rule);
 
     int m_upstreamPort;
@@ -59,9 +53,8 @@ private:
     std::atomic<bool> m_stopping{false};
     std::atomic<int> m_client{-1};
     std::atomic<int> m_upstream{-1};
-    mutable std::mutex m_mutex;
+    std::mutex m_mutex;
     std::vector<Rule> m_rules;
-    QList<int> m_operations;
     std::thread m_thread;
 };
 

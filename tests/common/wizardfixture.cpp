@@ -151,8 +151,3 @@ QByteArray WizardFixture::programForm(const QByteArray &from, const QByteArray &
     QByteArray form = file.readAll();
     return from.isEmpty() ? form : form.replace(from, to);
 }
-
-void WizardFixture::answerMessageBox(const QString &answer, QString *seen, int timeoutMs)
-{
-    TestSupport::answerMessageBox(answer, seen, timeoutMs);
-}

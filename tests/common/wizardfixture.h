@@ -66,10 +66,6 @@ public:
     // The program's form with every occurrence of from replaced by to.
     static QByteArray programForm(const QByteArray &from = QByteArray(), const QByteArray &to = QByteArray());
 
-    // Answers the next message box that opens within timeoutMs by clicking
-    // the button with the text answer; "title|text" lands in *seen.
-    static void answerMessageBox(const QString &answer, QString *seen, int timeoutMs = 5000);
-
 private:
     QTemporaryDir m_root;
     std::unique_ptr<FakeMachine> m_machine;

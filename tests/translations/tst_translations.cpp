@@ -119,7 +119,7 @@ bool walk(const WizardFixture &f, const QString &queue, Shown &shown, QStringLis
     W *wizard = f.wizard();
     collect(wizard, shown, faults);
     QString question;
-    WizardFixture::answerMessageBox(QString(), &question, 1000);
+    TestSupport::answerMessageBox(QString(), &question, 1000);
     if (!f.click(QWizard::CancelButton) || !wizard->isVisible())
         return false;
     shown.insert(QStringLiteral("0/cancel question"), question);

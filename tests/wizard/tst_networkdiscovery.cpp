@@ -81,7 +81,6 @@ private slots:
         row("raw socket", record("10.0.0.6", "1,0,0,1"), "10.0.0.6 (socket)  Office", "socket://10.0.0.6:9100");
         row("LPD", record("10.0.0.7", "1,0,1,0"), "10.0.0.7 (LPD)  Office", "lpd://10.0.0.7/lp");
         row("answered, nothing offered", record("10.0.0.8", "1,0,0,0"), "10.0.0.8 ()  Office", "");
-        row("not asked: IPP", record("10.0.0.9", "0,0,0,0"), "10.0.0.9 (IPP)  Office", "ipp://10.0.0.9/ipp/print");
         row("IPv6: socket", record("fe80::1", "1,1,0,0"), "fe80::1 (IPP)  Office", "socket://[fe80::1]:9100");
         row("IPv6 before version 2", record("fe80::1", "1,1,0,0") + record("10.0.0.10", "1,0,0,1"),
             "10.0.0.10 (socket)  Office", "socket://10.0.0.10:9100", 1);
