@@ -356,8 +356,7 @@ bool CUPSManager::renamePrinter(const QString &oldName, const QString &newName, 
     if (renamed.IsDefault() && !setDefaultPrinter(printerUri(newName)))
         return false;
 
-    const QByteArray fetched = fetchPPD(oldName);
-    const TempFile ppd(fetched.isEmpty() ? nullptr : fetched.constData());
+    const TempFile ppd = fetchPPD(oldName);
     if (ppd.isNull()) {
         // A queue without a driver (raw) has no file to carry over; any other
         // failure keeps the old queue, lest its driver be lost.
@@ -445,7 +444,7 @@ bool CUPSManager::findPrinter(const QString &name, CUPSPrinter &printer)
     return true;
 }
 
-QByteArray CUPSManager::fetchPPD(const QString &queue)
+TempFile CUPSManager::fetchPPD(const QString &queue)
 {
     // cupsGetPPD() would wait for an answer without end on its shared
     // connection.
@@ -456,20 +455,20 @@ QByteArray CUPSManager::fetchPPD(const QString &queue)
     const int fd = http ? cupsTempFd(path, sizeof path) : -1;
     if (fd < 0) {
         m_lastError = http ? QString::fromLocal8Bit(strerror(errno)) : IPPRequest::noAnswerText();
-        return QByteArray();
+        return TempFile();
     }
     const QByteArray resource = "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
     const http_status_t status = cupsGetFd(http.get(), resource.constData(), fd);
     close(fd);
+    TempFile copy(path);
     if (status == HTTP_STATUS_OK)
-        return QByteArray(path);
-    unlink(path);
+        return copy;
     // HTTP_STATUS_ERROR: the connection broke or the answer timed out.
     if (status == HTTP_STATUS_ERROR)
         m_lastError = IPPRequest::noAnswerText();
     else
         LastStatus = status == HTTP_STATUS_NOT_FOUND ? IPP_STATUS_ERROR_NOT_FOUND : IPP_STATUS_ERROR_INTERNAL;
-    return QByteArray();
+    return TempFile();
 }
 
 // --- Drivers -------------------------------------------------------------

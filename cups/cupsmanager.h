@@ -5,6 +5,7 @@
 #include "cupsdriver.h"
 #include "cupsjob.h"
 #include "cupsprinter.h"
+#include "tempfile.h"
 #include "cupsversionprobe.h"
 
 #include <QList>
@@ -106,8 +107,8 @@ public:
     // Fills printer from the scheduler; false when there is no such queue.
     bool findPrinter(const QString &name, CUPSPrinter &printer);
     // Fetches the queue's PPD into a temporary file, within the request
-    // timeouts; its path (the caller removes it), empty on failure.
-    QByteArray fetchPPD(const QString &queue);
+    // timeouts; a null file on failure.
+    TempFile fetchPPD(const QString &queue);
 
     // --- Drivers --------------------------------------------------------
     // The drivers of the package's vendor, keyed by display name: the model,

@@ -13,6 +13,8 @@ public:
     ~TempFile();
     TempFile(const TempFile &) = delete;
     TempFile &operator=(const TempFile &) = delete;
+    TempFile(TempFile &&other) noexcept : m_path(other.release()) {}
+    TempFile &operator=(TempFile &&) = delete;
 
     bool isNull() const { return m_path.isEmpty(); }
     QString path() const { return m_path; }

@@ -155,8 +155,7 @@ bool PPDDialog::load(const QString &printer)
 
     const QByteArray name = printer.toUtf8();
     // Bounded like every request: a stalled scheduler must not freeze the window.
-    const QByteArray fetched = CUPSManager::m_CUPSManagerInstance.fetchPPD(printer);
-    auto copy = std::make_unique<TempFile>(fetched.isEmpty() ? nullptr : fetched.constData());
+    auto copy = std::make_unique<TempFile>(CUPSManager::m_CUPSManagerInstance.fetchPPD(printer));
     if (copy->isNull()) {
         qWarning("cupsGetPPD failed");
         return false;
@@ -206,41 +205,14 @@ bool PPDDialog::save()
     }
 
     // The server's current file is the source, not the copy that is open.
-    const QByteArray fetched = manager.fetchPPD(m_printer);
-    const TempFile source(fetched.isEmpty() ? nullptr : fetched.constData());
+    const TempFile source = manager.fetchPPD(m_printer);
     if (source.isNull()) {
         qWarning("Failed to get PPD for printer <%s>", name.constData());
         return false;
     }
-    const QByteArray sourcePath = QFile::encodeName(source.path());
-    FilePtr in(std::fopen(sourcePath.constData(), "r"));
-    if (!in) {
-        qWarning("Failed to open PPD file <%s> (%s)", sourcePath.constData(), std::strerror(errno));
+    const TempFile output = rewrittenCopy(m_ppd.get(), source.path());
+    if (output.isNull())
         return false;
-    }
-
-    char outputPath[1024];
-    const int fd = cupsTempFd(outputPath, sizeof outputPath);
-    if (fd < 0) {
-        qWarning("Failed to create temporary file (%s)", std::strerror(errno));
-        return false;
-    }
-    const TempFile output(outputPath);
-    FilePtr out(fdopen(fd, "w"));
-    if (!out) {
-        qWarning("Failed to open file by descriptor %d (%s)", fd, std::strerror(errno));
-        ::close(fd);
-        return false;
-    }
-
-    rewriteDefaults(m_ppd.get(), in.get(), out.get());
-    in.reset();
-    // A short file must not replace the driver: check what the writes left.
-    const bool written = !std::ferror(out.get()) && std::fclose(out.release()) == 0;
-    if (!written) {
-        qWarning("Failed to write PPD file <%s> (%s)", outputPath, std::strerror(errno));
-        return false;
-    }
 
     if (!manager.attachDriverFile(printer.Name(), output.path())) {
         qWarning("Failed to attach PPD file to printer <%s> (%s)", name.constData(),
@@ -248,6 +220,38 @@ bool PPDDialog::save()
         return false;
     }
     return true;
+}
+
+TempFile PPDDialog::rewrittenCopy(ppd_file_t *ppd, const QString &source)
+{
+    const QByteArray sourcePath = QFile::encodeName(source);
+    FilePtr in(std::fopen(sourcePath.constData(), "r"));
+    if (!in) {
+        qWarning("Failed to open PPD file <%s> (%s)", sourcePath.constData(), std::strerror(errno));
+        return TempFile();
+    }
+    char outputPath[1024];
+    const int fd = cupsTempFd(outputPath, sizeof outputPath);
+    if (fd < 0) {
+        qWarning("Failed to create temporary file (%s)", std::strerror(errno));
+        return TempFile();
+    }
+    TempFile output(outputPath);
+    FilePtr out(fdopen(fd, "w"));
+    if (!out) {
+        qWarning("Failed to open file by descriptor %d (%s)", fd, std::strerror(errno));
+        ::close(fd);
+        return TempFile();
+    }
+
+    rewriteDefaults(ppd, in.get(), out.get());
+    // A short file must not replace the driver: check what the writes left.
+    const bool written = !std::ferror(out.get()) && std::fclose(out.release()) == 0;
+    if (!written) {
+        qWarning("Failed to write PPD file <%s> (%s)", outputPath, std::strerror(errno));
+        return TempFile();
+    }
+    return output;
 }
 
 void PPDDialog::rewriteDefaults(ppd_file_t *ppd, FILE *in, FILE *out)

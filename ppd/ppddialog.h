@@ -3,13 +3,13 @@
 
 #include "ppddialogbase.h"
 #include "ppdfileptr.h"
+#include "tempfile.h"
 
 #include <QString>
 
 #include <cstdio>
 #include <memory>
 
-class TempFile;
 
 // Edits the driver options of one printer of the scheduler: fetches its PPD,
 // shows the options, and on OK writes the chosen values into the "*Default"
@@ -41,6 +41,9 @@ public:
     // Copies in to out line by line, with every "*Default" line of an option
     // that has a marked choice in ppd rewritten as "*DefaultKEY: CHOICE".
     static void rewriteDefaults(ppd_file_t *ppd, FILE *in, FILE *out);
+    // A temporary copy of the PPD file source with the default lines of
+    // ppd's marked choices; a null file (after a warning) on failure.
+    static TempFile rewrittenCopy(ppd_file_t *ppd, const QString &source);
 
 public slots:
     void setOkButtonState();

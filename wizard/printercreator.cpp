@@ -13,45 +13,11 @@
 #include <QProcess>
 #include <QThread>
 
-#include <cstdio>
 #include <signal.h>
 #include <unistd.h>
 
 #include <cups/cups.h>
 #include <cups/ppd.h>
-
-namespace {
-
-struct FileCloser
-{
-    void operator()(FILE *file) const { std::fclose(file); }
-};
-using FilePtr = std::unique_ptr<FILE, FileCloser>;
-
-// A temporary copy of the PPD at path with the default lines of ppd's
-// marked choices, as the options dialog writes them; empty on failure.
-QByteArray rewrittenCopy(ppd_file_t *ppd, const QString &path)
-{
-    const FilePtr in(std::fopen(QFile::encodeName(path).constData(), "r"));
-    if (!in)
-        return QByteArray();
-    char outputPath[1024];
-    const int fd = cupsTempFd(outputPath, sizeof outputPath);
-    if (fd < 0)
-        return QByteArray();
-    TempFile output(outputPath);
-    FilePtr out(fdopen(fd, "w"));
-    if (!out) {
-        ::close(fd);
-        return QByteArray();
-    }
-    PPDDialog::rewriteDefaults(ppd, in.get(), out.get());
-    if (std::ferror(out.get()) || std::fclose(out.release()) != 0)
-        return QByteArray();
-    return QFile::encodeName(output.release());
-}
-
-} // namespace
 
 QString PrinterCreator::m_LpadminProgram = QStringLiteral("lpadmin");
 
@@ -87,10 +53,7 @@ PrinterCreator::Result PrinterCreator::commit(const CUPSPrinter &printer, const 
     result.outcome = Result::Created;
 
     // The queue works from here on; what follows only refines it.
-    applyPaperSize(name, paper);
-    if (!m_cups.answered())
-        return result;
-    result.paperSet = isPaperDefault(name, paper);
+    result.paperSet = applyPaperSize(name, paper);
     if (!m_cups.answered())
         return result;
     result.madeDefault = makeDefault(name);
@@ -149,8 +112,7 @@ bool PrinterCreator::create(const CUPSPrinter &printer) const
 
 bool PrinterCreator::isPaperDefault(const QString &queue, const char *paper) const
 {
-    const QByteArray fetched = m_cups.fetchPPD(queue);
-    const TempFile copy(fetched.isEmpty() ? nullptr : fetched.constData());
+    const TempFile copy = m_cups.fetchPPD(queue);
     if (copy.isNull())
         return false;
     const PpdFilePtr ppd(ppdOpenFile(QFile::encodeName(copy.path()).constData()));
@@ -192,8 +154,7 @@ bool PrinterCreator::applyPaperSize(const QString &queue, const char *paper) con
 
 bool PrinterCreator::setPaperInDriver(const QString &queue, const char *paper) const
 {
-    const QByteArray fetchedPath = m_cups.fetchPPD(queue);
-    const TempFile fetched(fetchedPath.isEmpty() ? nullptr : fetchedPath.constData());
+    const TempFile fetched = m_cups.fetchPPD(queue);
     if (fetched.isNull())
         return false;
     const PpdFilePtr ppd(ppdOpenFile(QFile::encodeName(fetched.path()).constData()));
@@ -202,13 +163,11 @@ bool PrinterCreator::setPaperInDriver(const QString &queue, const char *paper) c
     ppdMarkDefaults(ppd.get());
     // Marking either of the two unmarks the other: a pass for each.
     ppdMarkOption(ppd.get(), "PageSize", paper);
-    const QByteArray sizedPath = rewrittenCopy(ppd.get(), fetched.path());
-    const TempFile sized(sizedPath.isEmpty() ? nullptr : sizedPath.constData());
+    const TempFile sized = PPDDialog::rewrittenCopy(ppd.get(), fetched.path());
     if (sized.isNull())
         return false;
     ppdMarkOption(ppd.get(), "PageRegion", paper);
-    const QByteArray regionPath = rewrittenCopy(ppd.get(), sized.path());
-    const TempFile region(regionPath.isEmpty() ? nullptr : regionPath.constData());
+    const TempFile region = PPDDialog::rewrittenCopy(ppd.get(), sized.path());
     return !region.isNull() && m_cups.attachDriverFile(queue, region.path());
 }
 
