@@ -110,6 +110,25 @@ ipp_t *copyOf(ipp_t *request)
     return copy;
 }
 
+// Asks for a name and a password and keeps them; a blank name stands for
+// fallbackUser. False, with the reason noted, when the user cancelled or
+// left the name blank without a fallback.
+bool askCredentials(const QString &prompt, QString user, const QByteArray &fallbackUser)
+{
+    QString password;
+    const bool confirmed = (s_asker ? s_asker : &PasswordDialog::ask)(prompt, &user, &password);
+    s_credentials.clear();
+    const QByteArray name = user.isEmpty() ? fallbackUser : user.toLocal8Bit();
+    if (confirmed && !name.isEmpty()) {
+        s_credentials.user = name;
+        s_credentials.password = password.toLocal8Bit();
+    } else {
+        s_authFailure = cancelled();
+    }
+    wipe(password);
+    return !s_credentials.user.isEmpty();
+}
+
 } // namespace
 
 IPPRequest::IPPRequest(ipp_op_t operation)
@@ -340,18 +359,8 @@ const char *IPPRequest::passwordCallback(const char *prompt, http_t *http, const
         cupsSetUser(s_credentials.user.constData());
         return s_credentials.password.constData();
     }
-    QString user = QString::fromLocal8Bit(cupsUser());
-    QString password;
-    const bool confirmed = (s_asker ? s_asker : &PasswordDialog::ask)(QString::fromUtf8(prompt), &user, &password);
-    s_credentials.clear();
-    if (!confirmed) {
-        wipe(password);
-        s_authFailure = cancelled();
+    if (!askCredentials(QString::fromUtf8(prompt), QString::fromLocal8Bit(cupsUser()), s_processUser))
         return nullptr;
-    }
-    s_credentials.user = user.isEmpty() ? s_processUser : user.toLocal8Bit();
-    s_credentials.password = password.toLocal8Bit();
-    wipe(password);
     ++s_offered;
     // libcups sends the name that cupsUser() gives once this returns.
     cupsSetUser(s_credentials.user.constData());
@@ -369,19 +378,9 @@ bool IPPRequest::administratorCredentials()
     const QString prompt = QCoreApplication::translate("IPPRequest", "%1 may not change the printers of this "
                                                                      "computer. Name and password of an administrator:")
                                .arg(QString::fromLocal8Bit(s_processUser));
-    QString user;
-    QString password;
-    const bool confirmed = (s_asker ? s_asker : &PasswordDialog::ask)(prompt, &user, &password);
-    s_credentials.clear();
-    if (!confirmed || user.isEmpty()) {
-        wipe(password);
-        s_authFailure = cancelled();
+    if (!askCredentials(prompt, QString(), QByteArray()))
         return false;
-    }
-    s_credentials.user = user.toLocal8Bit();
-    s_credentials.password = password.toLocal8Bit();
     s_credentials.fresh = true;
-    wipe(password);
     // Another name than the program's user keeps libcups from sending the
     // peer credentials again; the scheduler then asks for the password.
     cupsSetUser(s_credentials.user.constData());
