@@ -86,15 +86,6 @@ private:
     }
 };
 
-// "localhost:631", or the path of the local socket.
-QString serverName()
-{
-    const QString server = QString::fromUtf8(cupsServer());
-    if (server.startsWith(QLatin1Char('/')))
-        return server;
-    return server + QLatin1Char(':') + QString::number(ippPort());
-}
-
 bool onLocalSocket()
 {
     return cupsServer()[0] == '/';
@@ -280,9 +271,20 @@ bool IPPRequest::Execute(const char *resource)
     return true;
 }
 
+QString IPPRequest::serverAddress()
+{
+    QString server = QString::fromUtf8(cupsServer());
+    // cupsServer() gives the host without the port; a local socket has none.
+    if (server.isEmpty() || server.startsWith(QLatin1Char('/')))
+        return server;
+    if (server.contains(QLatin1Char(':')) && !server.startsWith(QLatin1Char('[')))
+        server = QLatin1Char('[') + server + QLatin1Char(']');
+    return server + QLatin1Char(':') + QString::number(ippPort());
+}
+
 QString IPPRequest::noAnswerText()
 {
-    return QCoreApplication::translate("IPPRequest", "The printing service at %1 does not answer").arg(serverName());
+    return QCoreApplication::translate("IPPRequest", "The printing service at %1 does not answer").arg(serverAddress());
 }
 
 HttpPtr IPPRequest::connectToScheduler()

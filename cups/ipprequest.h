@@ -69,6 +69,9 @@ public:
     static QString lastError();
     // "The printing service at HOST:PORT does not answer".
     static QString noAnswerText();
+    // The scheduler in use as CUPS_SERVER names it: "HOST:PORT" (IPv6 in
+    // brackets) or the path of the local socket.
+    static QString serverAddress();
 
     // How often one request may offer a password that the scheduler refuses.
     static constexpr int MaxPasswordAttempts = 3;

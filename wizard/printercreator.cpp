@@ -2,6 +2,7 @@
 
 #include "cupsmanager.h"
 #include "cupsprinter.h"
+#include "ipprequest.h"
 #include "ppddialog.h"
 #include "ppdfileptr.h"
 #include "tempfile.h"
@@ -209,15 +210,9 @@ QString PrinterCreator::testPageProgram(const QString &rootDir)
 QProcessEnvironment PrinterCreator::cupsClientEnvironment()
 {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    QString server = QString::fromUtf8(cupsServer());
+    const QString server = IPPRequest::serverAddress();
     if (server.isEmpty())
         return env;
-    // cupsServer() gives the host without the port; a local socket has none.
-    if (!server.startsWith(QLatin1Char('/'))) {
-        if (server.contains(QLatin1Char(':')) && !server.startsWith(QLatin1Char('[')))
-            server = QLatin1Char('[') + server + QLatin1Char(']');
-        server += QLatin1Char(':') + QString::number(ippPort());
-    }
     env.insert(QStringLiteral("CUPS_SERVER"), server);
     return env;
 }
