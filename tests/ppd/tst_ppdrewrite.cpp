@@ -1,6 +1,8 @@
+#include "cupssandbox.h"
 #include "ppddialog.h"
 #include "testpaths.h"
 
+#include <QDir>
 #include <QtTest>
 
 #include <cstdio>
@@ -51,11 +53,55 @@ QByteArray rewritten(ppd_file_t *ppd, QByteArray input)
 
 } // namespace
 
+// The drivers the package ships, and the rewriting of their defaults.
 class TestPPDRewrite : public QObject
 {
     Q_OBJECT
 
 private slots:
+    // The scheduler lists them all: tst_cupsmanager's driverCatalogue.
+    void samplesAreValid_data()
+    {
+        QTest::addColumn<QString>("ppd");
+        const QStringList files = QDir(TestPaths::samplePpd()).entryList({QStringLiteral("*.ppd")}, QDir::Files);
+        QVERIFY(files.size() >= 5);
+        for (const QString &file : files)
+            QTest::newRow(qPrintable(file)) << file;
+    }
+
+    // Valid, and their defaults free of conflicts.
+    void samplesAreValid()
+    {
+        QFETCH(QString, ppd);
+        QString output;
+        QVERIFY2(CupsSandbox::run({"cupstestppd", "-W", "all", TestPaths::samplePpd(ppd)}, &output) == 0,
+                 qPrintable(output));
+        QCOMPARE(ppdConflicts(openSample(ppd, QByteArray()).get()), 0);
+    }
+
+    void sampleConstraints_data()
+    {
+        QTest::addColumn<QString>("ppd");
+        QTest::addColumn<QByteArray>("marks");
+        QTest::addColumn<bool>("conflict");
+        QTest::newRow("no duplexer, duplex") << "acme-mfp4200.ppd" << QByteArray("Duplex=DuplexNoTumble") << true;
+        QTest::newRow("duplexer installed")
+            << "acme-mfp4200.ppd" << QByteArray("OptionDuplexer=True Duplex=DuplexNoTumble") << false;
+        QTest::newRow("tray 2 missing") << "acme-mfp4200.ppd" << QByteArray("InputSlot=Tray2") << true;
+        QTest::newRow("transparency duplex")
+            << "acme-laser1610.ppd" << QByteArray("MediaType=Transparency Duplex=DuplexTumble") << true;
+    }
+
+    void sampleConstraints()
+    {
+        QFETCH(QString, ppd);
+        QFETCH(QByteArray, marks);
+        QFETCH(bool, conflict);
+        const PpdFilePtr file = openSample(ppd, marks);
+        QVERIFY(file);
+        QCOMPARE(ppdConflicts(file.get()) > 0, conflict);
+    }
+
     void rewrite_data()
     {
         QTest::addColumn<QByteArray>("mark"); // on top of the defaults
