@@ -182,19 +182,11 @@ bool CupsSandbox::addBackend(const QString &name, const QString &program)
 
 bool CupsSandbox::addModel(const QString &path)
 {
+    // start() builds the model directory and copies them then.
     const QFileInfo info(path);
-    if (!info.exists())
-        return false;
-    if (m_server.isEmpty()) {
-        // start() rebuilds the model directory, so it copies them then.
+    if (info.exists())
         m_models << info.absoluteFilePath();
-        return true;
-    }
-    // The scheduler notices new files in the model directory on its next
-    // catalogue request.
-    const QString modelDir = directory() + QStringLiteral("/share/model");
-    return run({QStringLiteral("cp"), QStringLiteral("-R"), QStringLiteral("-L"), info.absoluteFilePath(), modelDir}) == 0
-        && run({QStringLiteral("chmod"), QStringLiteral("-R"), QStringLiteral("a+rX"), modelDir}) == 0;
+    return info.exists();
 }
 
 void CupsSandbox::setEnv(const QString &name, const QString &value)

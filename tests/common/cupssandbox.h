@@ -56,7 +56,8 @@ public:
     // scheduler runs it as root (a world-executable backend would run as
     // the unprivileged user lp and could not write to the test's files).
     bool addBackend(const QString &name, const QString &program);
-    // Adds a PPD file (or a directory of them) to the driver catalogue.
+    // Adds a PPD file (or a directory of them) to the driver catalogue at
+    // the next start().
     bool addModel(const QString &path);
     // Sets an environment variable for the scheduler's filters, backends and
     // device listing; takes effect at the next start().
