@@ -32,7 +32,11 @@ EarlyDriverRequest::EarlyDriverRequest(const QString &vendorFilter)
     if (!m_connection || !m_request.request())
         return;
     const NoPasswordPrompt quiet;
-    m_sent = cupsSendRequest(m_connection.get(), m_request.request(), "/", 0) == HTTP_STATUS_CONTINUE;
+    // With its length given the request goes out whole. Sent in chunks
+    // (length 0), its closing chunk would wait for takeAnswer(), and the
+    // scheduler starts on a request only once the body has ended.
+    m_sent = cupsSendRequest(m_connection.get(), m_request.request(), "/", ippLength(m_request.request()))
+        == HTTP_STATUS_CONTINUE;
 }
 
 IppPtr EarlyDriverRequest::takeAnswer(bool *stalled)
