@@ -95,6 +95,13 @@ UriValidator::UriValidator(int scheme, bool ipv6Allowed, QObject *parent)
 {
 }
 
+UriValidator::UriValidator(int scheme, bool (*ipv6Allowed)(), QObject *parent)
+    : QRegularExpressionValidator(parent)
+    , m_scheme(scheme)
+    , m_ipv6Decision(ipv6Allowed)
+{
+}
+
 QString UriValidator::prefix(int scheme)
 {
     const QStringList &table = prefixTable();
@@ -111,16 +118,19 @@ QValidator::State UriValidator::validate(QString &input, int &pos) const
         rest.remove(0, head.size());
 
     bool ok = false;
+    // Nothing typed is invalid either way; not asking then keeps the forms
+    // from waiting for the CUPS version while they set up empty entries.
+    const bool ipv6 = m_scheme != FileScheme && !rest.isEmpty() && ipv6Allowed();
     switch (m_scheme) {
     case IppScheme:
     case SocketScheme:
-        ok = checkHost(rest, m_ipv6Allowed, true);
+        ok = checkHost(rest, ipv6, true);
         break;
     case LpdScheme:
-        ok = checkLpd(rest, m_ipv6Allowed);
+        ok = checkLpd(rest, ipv6);
         break;
     case SmbScheme:
-        ok = checkSmb(rest, m_ipv6Allowed);
+        ok = checkSmb(rest, ipv6);
         break;
     case FileScheme:
         ok = !QFileInfo(rest).isRelative();
