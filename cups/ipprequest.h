@@ -95,6 +95,10 @@ private:
     static bool administratorCredentials();
     static const char *passwordCallback(const char *prompt, http_t *http, const char *method,
                                         const char *resource, void *data);
+    // Sends the request and reads a listing's answer in large blocks; null
+    // when none came, or, with *ordinaryWay set, when the scheduler answered
+    // anything but HTTP 200 and the request should go through libcups.
+    ipp_t *readInBlocks(const char *resource, bool *ordinaryWay);
     void addString(ipp_tag_t valueTag, const char *name, const char *value, ipp_tag_t group);
     void addStringList(ipp_tag_t valueTag, const char *name, const QStringList &values, ipp_tag_t group);
 
