@@ -308,24 +308,25 @@ bool IPPRequest::Execute(const char *resource)
 
 ipp_t *IPPRequest::readInBlocks(const char *resource, bool *ordinaryWay)
 {
-    *ordinaryWay = false;
     http_t *http = m_connection.get();
     ipp_t *request = m_request.get();
     // Sent with its length, as cupsDoRequest sends it.
     http_status_t status = cupsSendRequest(http, request, resource, ippLength(request));
-    if (status == HTTP_STATUS_CONTINUE) {
-        httpFlushWrite(http);
-        do {
-            status = httpUpdate(http);
-        } while (status == HTTP_STATUS_CONTINUE);
-    }
-    if (status == HTTP_STATUS_ERROR)
-        return nullptr;
-    if (status != HTTP_STATUS_OK) {
+    ipp_t *answer = status == HTTP_STATUS_CONTINUE ? receiveInBlocks(http, &status) : nullptr;
+    *ordinaryWay = status != HTTP_STATUS_OK && status != HTTP_STATUS_CONTINUE && status != HTTP_STATUS_ERROR;
+    if (*ordinaryWay)
         httpFlush(http);
-        *ordinaryWay = true;
+    return answer;
+}
+
+ipp_t *IPPRequest::receiveInBlocks(http_t *http, http_status_t *status)
+{
+    httpFlushWrite(http);
+    do {
+        *status = httpUpdate(http);
+    } while (*status == HTTP_STATUS_CONTINUE);
+    if (*status != HTTP_STATUS_OK)
         return nullptr;
-    }
     QByteArray body;
     // The announced length, within reason: it comes from the other side.
     body.reserve(qsizetype(qBound(off_t(0), httpGetLength2(http), off_t(16 * 1024 * 1024))));

@@ -57,6 +57,12 @@ public:
     // The answer; nullptr until one arrived.
     ipp_t *response() const { return m_response.get(); }
 
+    // The answer to a request that cupsSendRequest sent whole on http: its
+    // body read in large blocks (libcups reads a few bytes per system
+    // call) and parsed from memory. Null when none came (*status then is
+    // HTTP_STATUS_ERROR) or the HTTP status is not 200.
+    static ipp_t *receiveInBlocks(http_t *http, http_status_t *status);
+
     // A connection to the scheduler with the request timeouts, for the few
     // libcups calls that take one (cupsGetPPD2); null when none was made.
     static HttpPtr connectToScheduler();
