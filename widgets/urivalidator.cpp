@@ -118,19 +118,20 @@ QValidator::State UriValidator::validate(QString &input, int &pos) const
         rest.remove(0, head.size());
 
     bool ok = false;
-    // Nothing typed is invalid either way; not asking then keeps the forms
-    // from waiting for the CUPS version while they set up empty entries.
-    const bool ipv6 = m_scheme != FileScheme && !rest.isEmpty() && ipv6Allowed();
+    // Nothing typed is invalid for every scheme. Judged without a pattern
+    // and without the IPv6 decision, the empty entries that the forms set
+    // up neither compile the patterns nor wait for the CUPS version.
+    const bool typed = !rest.isEmpty();
     switch (m_scheme) {
     case IppScheme:
     case SocketScheme:
-        ok = checkHost(rest, ipv6, true);
+        ok = typed && checkHost(rest, ipv6Allowed(), true);
         break;
     case LpdScheme:
-        ok = checkLpd(rest, ipv6);
+        ok = typed && checkLpd(rest, ipv6Allowed());
         break;
     case SmbScheme:
-        ok = checkSmb(rest, ipv6);
+        ok = typed && checkSmb(rest, ipv6Allowed());
         break;
     case FileScheme:
         ok = !QFileInfo(rest).isRelative();
