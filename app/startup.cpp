@@ -171,8 +171,8 @@ int queuewizMain(int argc, char **argv)
         return options.contains(QStringLiteral("-")) ? -1 : 0;
     }
 
-    // This process is the instance: its logs start now, before its first
-    // request. A start that only woke another one has touched none.
+    // This process is the instance: its logs start now, before a request
+    // is logged. A start that only woke another one has touched none.
     IPPLog::openAll(IPPLog::defaultDirectory());
 
     QFont::insertSubstitution(QStringLiteral("Helvetica"), QStringLiteral("Adobe Helvetica"));
