@@ -149,6 +149,10 @@ int queuewizMain(int argc, char **argv)
     const Platform platform = choosePlatform();
     if (platform == Platform::Missing && !prepareForNoDisplay(argc, argv))
         return 1;
+    // The scheduler lists the drivers while Qt starts and the forms load.
+    // Nothing is logged until the answer is taken, after the logs opened.
+    if (platform != Platform::Missing)
+        CUPSManager::m_CUPSManagerInstance.sendDriverRequest();
     QtSingleApplication app(QStringLiteral("AddPrinterWizard_SingleApplication"), argc, argv);
     // The browser and the test page must not inherit our choice.
     if (platform == Platform::Told)
@@ -167,11 +171,9 @@ int queuewizMain(int argc, char **argv)
         return options.contains(QStringLiteral("-")) ? -1 : 0;
     }
 
-    // This process is the instance: its logs start now, before its first
-    // request. A start that only woke another one has touched none.
+    // This process is the instance: its logs start now, before a request
+    // is logged. A start that only woke another one has touched none.
     IPPLog::openAll(IPPLog::defaultDirectory());
-    // The scheduler lists the drivers while the forms load.
-    CUPSManager::m_CUPSManagerInstance.sendDriverRequest();
 
     QFont::insertSubstitution(QStringLiteral("Helvetica"), QStringLiteral("Adobe Helvetica"));
 

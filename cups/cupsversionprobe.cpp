@@ -1,5 +1,7 @@
 #include "cupsversionprobe.h"
 
+#include <QByteArrayView>
+#include <QFile>
 #include <QString>
 
 #include <algorithm>
@@ -16,8 +18,30 @@ namespace {
 
 const char kPipeline[] = "((which rpm >/dev/null && rpm -q cups) || (which dpkg >/dev/null && dpkg -p "
                          "cupsys-common | grep -i \"version:\")) | awk -F. '{ print $2 }'";
+const char kOldPackage[] = "\nPackage: cupsys-common\n";
 // An answer this long is not a version number.
 constexpr int kMaxAnswer = 15;
+
+// The pipeline answers through rpm, or through dpkg when its database of
+// available packages still lists the old package name. Today's Debian and
+// Ubuntu have neither, and there the shell, dpkg, grep and awk would only
+// take CPU from start-up to print nothing.
+bool packageQueryCanAnswer()
+{
+    const QByteArray path = qgetenv("PATH");
+    for (const QByteArray &dir : path.split(':')) {
+        if (!dir.isEmpty() && access((dir + "/rpm").constData(), X_OK) == 0)
+            return true;
+    }
+    QFile available(QStringLiteral("/var/lib/dpkg/available"));
+    if (!available.open(QIODevice::ReadOnly))
+        return false;
+    const uchar *data = available.map(0, available.size());
+    if (!data)
+        return false;
+    const QByteArrayView text(data, available.size());
+    return text.startsWith(kOldPackage + 1) || text.contains(QByteArrayView(kOldPackage));
+}
 
 } // namespace
 
@@ -42,6 +66,8 @@ CupsVersionProbe &CupsVersionProbe::operator=(int version)
 
 void CupsVersionProbe::start()
 {
+    if (!packageQueryCanAnswer())
+        return;
     int fds[2];
     if (pipe2(fds, O_CLOEXEC) != 0)
         return;

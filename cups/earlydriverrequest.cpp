@@ -32,7 +32,11 @@ EarlyDriverRequest::EarlyDriverRequest(const QString &vendorFilter)
     if (!m_connection || !m_request.request())
         return;
     const NoPasswordPrompt quiet;
-    m_sent = cupsSendRequest(m_connection.get(), m_request.request(), "/", 0) == HTTP_STATUS_CONTINUE;
+    // With its length given the request goes out whole. Sent in chunks
+    // (length 0), its closing chunk would wait for takeAnswer(), and the
+    // scheduler starts on a request only once the body has ended.
+    m_sent = cupsSendRequest(m_connection.get(), m_request.request(), "/", ippLength(m_request.request()))
+        == HTTP_STATUS_CONTINUE;
 }
 
 IppPtr EarlyDriverRequest::takeAnswer(bool *stalled)
@@ -41,14 +45,11 @@ IppPtr EarlyDriverRequest::takeAnswer(bool *stalled)
     if (!m_sent)
         return IppPtr();
     m_sent = false;
-    IppPtr answer;
-    {
-        const NoPasswordPrompt quiet;
-        answer.reset(cupsGetResponse(m_connection.get(), "/"));
-    }
     // A refusal (401, 403) has an HTTP status; a timeout or a broken
     // connection has none.
-    *stalled = !answer && httpGetStatus(m_connection.get()) == HTTP_STATUS_ERROR;
+    http_status_t status = HTTP_STATUS_ERROR;
+    IppPtr answer(IPPRequest::receiveInBlocks(m_connection.get(), &status));
+    *stalled = !answer && status == HTTP_STATUS_ERROR;
     if (!answer || ippGetStatusCode(answer.get()) != IPP_STATUS_OK)
         return IppPtr();
     IPPLog::line(IPPLog::Request, "Requesting operation 0x%x...", static_cast<unsigned>(m_request.operation()));

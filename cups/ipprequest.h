@@ -57,6 +57,12 @@ public:
     // The answer; nullptr until one arrived.
     ipp_t *response() const { return m_response.get(); }
 
+    // The answer to a request that cupsSendRequest sent whole on http: its
+    // body read in large blocks (libcups reads a few bytes per system
+    // call) and parsed from memory. Null when none came (*status then is
+    // HTTP_STATUS_ERROR) or the HTTP status is not 200.
+    static ipp_t *receiveInBlocks(http_t *http, http_status_t *status);
+
     // A connection to the scheduler with the request timeouts, for the few
     // libcups calls that take one (cupsGetPPD2); null when none was made.
     static HttpPtr connectToScheduler();
@@ -95,6 +101,10 @@ private:
     static bool administratorCredentials();
     static const char *passwordCallback(const char *prompt, http_t *http, const char *method,
                                         const char *resource, void *data);
+    // Sends the request and reads a listing's answer in large blocks; null
+    // when none came, or, with *ordinaryWay set, when the scheduler answered
+    // anything but HTTP 200 and the request should go through libcups.
+    ipp_t *readInBlocks(const char *resource, bool *ordinaryWay);
     void addString(ipp_tag_t valueTag, const char *name, const char *value, ipp_tag_t group);
     void addStringList(ipp_tag_t valueTag, const char *name, const QStringList &values, ipp_tag_t group);
 

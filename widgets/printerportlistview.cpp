@@ -45,6 +45,13 @@ QStringList devicePaths(const char *format, int first, int count)
     return paths;
 }
 
+// CUPS 1.2 and later take IPv6 addresses in device URIs. Asked when a URI
+// is judged, not while the forms load: the version may still be probed.
+bool cupsTakesIpv6()
+{
+    return CUPSManager::m_CUPSManagerInstance.CupsVersion > 1;
+}
+
 } // namespace
 
 PrinterPortListView::PrinterPortListView(QWidget *parent, const char *name)
@@ -64,11 +71,9 @@ PrinterPortListView::PrinterPortListView(QWidget *parent, const char *name)
     addLocalGroup(ParallelGroup, NativeTag, devicePaths("/dev/lp%d", 0, ParallelCount));
     addLocalGroup(UsbGroup, NativeTag, devicePaths("/dev/usb/lp%d", 0, UsbCount));
 
-    // CUPS 1.2 and later take IPv6 addresses in device URIs.
-    const bool ipv6 = CUPSManager::m_CUPSManagerInstance.CupsVersion > 1;
-    auto addEditable = [this, ipv6](QTreeWidgetItem *group, int scheme) {
+    auto addEditable = [this](QTreeWidgetItem *group, int scheme) {
         auto *item = new FormattedListItem(group);
-        item->setValidator(0, new UriValidator(scheme, ipv6, this));
+        item->setValidator(0, new UriValidator(scheme, &cupsTakesIpv6, this));
         item->setRenameEnabled(0, true);
     };
     QTreeWidgetItem *network = addGroup(NetworkGroup, QString());

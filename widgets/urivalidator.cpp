@@ -95,6 +95,13 @@ UriValidator::UriValidator(int scheme, bool ipv6Allowed, QObject *parent)
 {
 }
 
+UriValidator::UriValidator(int scheme, bool (*ipv6Allowed)(), QObject *parent)
+    : QRegularExpressionValidator(parent)
+    , m_scheme(scheme)
+    , m_ipv6Decision(ipv6Allowed)
+{
+}
+
 QString UriValidator::prefix(int scheme)
 {
     const QStringList &table = prefixTable();
@@ -111,16 +118,20 @@ QValidator::State UriValidator::validate(QString &input, int &pos) const
         rest.remove(0, head.size());
 
     bool ok = false;
+    // Nothing typed is invalid for every scheme. Judged without a pattern
+    // and without the IPv6 decision, the empty entries that the forms set
+    // up neither compile the patterns nor wait for the CUPS version.
+    const bool typed = !rest.isEmpty();
     switch (m_scheme) {
     case IppScheme:
     case SocketScheme:
-        ok = checkHost(rest, m_ipv6Allowed, true);
+        ok = typed && checkHost(rest, ipv6Allowed(), true);
         break;
     case LpdScheme:
-        ok = checkLpd(rest, m_ipv6Allowed);
+        ok = typed && checkLpd(rest, ipv6Allowed());
         break;
     case SmbScheme:
-        ok = checkSmb(rest, m_ipv6Allowed);
+        ok = typed && checkSmb(rest, ipv6Allowed());
         break;
     case FileScheme:
         ok = !QFileInfo(rest).isRelative();

@@ -23,11 +23,14 @@ public:
     };
 
     explicit UriValidator(int scheme, bool ipv6Allowed, QObject *parent = nullptr);
+    // The IPv6 decision is asked for whenever it is needed, not at
+    // construction: it may wait for the installed CUPS version.
+    UriValidator(int scheme, bool (*ipv6Allowed)(), QObject *parent = nullptr);
 
     State validate(QString &input, int &pos) const override;
 
     int scheme() const { return m_scheme; }
-    bool ipv6Allowed() const { return m_ipv6Allowed; }
+    bool ipv6Allowed() const { return m_ipv6Decision ? m_ipv6Decision() : m_ipv6Allowed; }
 
     // "ipp://", "socket://", ...; empty for NoScheme and unknown ids.
     static QString prefix(int scheme);
@@ -38,7 +41,8 @@ private:
     static bool checkSmb(QString &text, bool ipv6Allowed);
 
     const int m_scheme;
-    const bool m_ipv6Allowed;
+    const bool m_ipv6Allowed = false;
+    bool (*const m_ipv6Decision)() = nullptr;
 };
 
 #endif

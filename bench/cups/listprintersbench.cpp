@@ -9,6 +9,7 @@
 #include "cupsptr.h"
 #include "cupssandbox.h"
 #include "ipplog.h"
+#include "requests.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -18,8 +19,17 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
+#include <iterator>
 
 namespace {
+
+// What the printer manager asks for of every queue.
+const char *const kAttributes[] = {
+    "printer-name", "printer-location", "printer-info", "printer-make-and-model", "printer-state",
+    "printer-state-message", "device-uri", "color-supported", "media-supported", "media-default",
+    "job-sheets-supported", "job-sheets-default", "printer-type", "printer-is-accepting-jobs",
+    "printer-uri-supported", "copies-supported", "copies-default", "page-ranges-supported",
+    "orientation-requested-supported", "orientation-requested-default"};
 
 // Milliseconds: the best of several calls.
 double timeIt(const std::function<bool()> &call, int rounds = 7)
@@ -48,19 +58,25 @@ bool runLpstat()
 // its, with nothing done to the answer.
 bool bareGetPrinters()
 {
-    static const char *const attributes[] = {
-        "printer-name", "printer-location", "printer-info", "printer-make-and-model", "printer-state",
-        "printer-state-message", "device-uri", "color-supported", "media-supported", "media-default",
-        "job-sheets-supported", "job-sheets-default", "printer-type", "printer-is-accepting-jobs",
-        "printer-uri-supported", "copies-supported", "copies-default", "page-ranges-supported",
-        "orientation-requested-supported", "orientation-requested-default"};
     ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_PRINTERS);
     ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
-                  int(sizeof attributes / sizeof *attributes), nullptr, attributes);
+                  int(std::size(kAttributes)), nullptr, kAttributes);
     HttpPtr http(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, HTTP_ENCRYPTION_IF_REQUESTED, 1, 10000,
                               nullptr));
     IppPtr answer(cupsDoRequest(http.get(), request, "/printers/"));
     return answer && ippGetStatusCode(answer.get()) == IPP_STATUS_OK;
+}
+
+// The printer manager's own request on its own connection, with the answer
+// read but not walked: what listing costs beyond this is record building.
+bool ownRequestOnly()
+{
+    QStringList attributes;
+    for (const char *name : kAttributes)
+        attributes << QLatin1String(name);
+    Requests::GetPrinters request(0, 0);
+    request.addKeywordList("requested-attributes", attributes);
+    return CUPSManager::m_CUPSManagerInstance.send(request) && ippGetStatusCode(request.response()) == IPP_STATUS_OK;
 }
 
 bool createQueues(int count)
@@ -113,6 +129,7 @@ int main(int argc, char **argv)
     int acme = 0;
     const double lpstat = timeIt(runLpstat);
     const double bare = timeIt(bareGetPrinters);
+    const double own = timeIt(ownRequestOnly);
     const double all = timeIt([&] {
         const bool ok = manager.listPrinters(printers);
         listed = int(printers.size());
@@ -127,7 +144,7 @@ int main(int argc, char **argv)
     IPPLog::closeAll();
     const double unlogged = timeIt([&] { return manager.listPrinters(printers); });
     IPPLog::openAll(logs.path());
-    if (lpstat <= 0 || bare <= 0 || all <= 0 || vendor <= 0 || unlogged <= 0)
+    if (lpstat <= 0 || bare <= 0 || own <= 0 || all <= 0 || vendor <= 0 || unlogged <= 0)
         return 1;
 
     printf("%d queues (%d listed, %d of vendor ACME)\n", count, listed, acme);
@@ -137,6 +154,7 @@ int main(int argc, char **argv)
     };
     row("lpstat -p (baseline)", lpstat);
     row("bare CUPS-Get-Printers (baseline)", bare);
+    row("the manager's request, not walked", own);
     row("listPrinters, all", all);
     row("listPrinters, vendor ACME", vendor);
     row("listPrinters, all, logs closed", unlogged);

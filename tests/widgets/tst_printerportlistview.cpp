@@ -145,9 +145,9 @@ private slots:
 
         CUPSManager::m_CUPSManagerInstance.CupsVersion = 1;  // no IPv6 in device URIs yet
         PrinterPortListView old;
-        CUPSManager::m_CUPSManagerInstance.CupsVersion = 4;
         QVERIFY(!static_cast<UriValidator *>(static_cast<FormattedListItem *>(entry(old, Network, 3))->validator(0))
                      ->ipv6Allowed());
+        CUPSManager::m_CUPSManagerInstance.CupsVersion = 4;
     }
 
     // Selecting shows the entry's group and gives back the URI of the entry;
