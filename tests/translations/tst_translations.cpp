@@ -3,6 +3,7 @@
 #include "cupsmanager.h"
 #include "cupssandbox.h"
 #include "loopbackprinter.h"
+#include "ppddialog.h"
 #include "testpaths.h"
 #include "testqueue.h"
 #include "testsupport.h"
@@ -10,13 +11,17 @@
 #include "urlpushbutton.h"
 #include "wizardfixture.h"
 
+#include <QAccessible>
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QDirIterator>
 #include <QDomDocument>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QTextDocument>
 #include <QTranslator>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
@@ -26,7 +31,6 @@ using W = AddPrinterWizard;
 
 namespace {
 
-const QString Driver = QStringLiteral("Acme Laser 1610 Series (en)");
 const QString HelpPage = QStringLiteral("PellomarAddPrinterWizard.htm");
 const QString AnchorPattern = QStringLiteral("\\bid=\"([^\"]+)\"");
 const QString LinkPattern = QStringLiteral("\\bhref=\"#([^\"]+)\"");
@@ -111,47 +115,106 @@ void collect(const W *wizard, Shown &shown, QStringList *faults)
     }
 }
 
-// From the welcome page to the finish page by a port typed by hand, making
-// the queue on the way; the Cancel question is asked and declined on page 0,
-// and the network is searched on page 1.
-bool walk(const WizardFixture &f, const QString &queue, Shown &shown, QStringList *faults)
+// The questions answered on the way, as "title|text".
+QStringList questions;
+
+QAccessibleInterface *accessible(QObject *object)
 {
-    W *wizard = f.wizard();
-    collect(wizard, shown, faults);
-    QString question;
-    TestSupport::answerMessageBox(QString(), &question, 1000);
-    if (!f.click(QWizard::CancelButton) || !wizard->isVisible())
-        return false;
-    shown.insert(QStringLiteral("0/cancel question"), question);
+    return QAccessible::queryAccessibleInterface(object);
+}
 
-    if (!f.click(QWizard::NextButton))
-        return false;
-    collect(wizard, shown, faults);
-    // A network printer that tells nothing about itself.
-    if (!f.addScript("bin/netdiscovery", "#!/bin/sh\necho 'ip: 127.0.0.1 slp: 0,0,0,0 snmp: 1,0,1 dsc: \"\"'\n"))
-        return false;
-    f.clickRadio("NetworkButton");
-    QTest::mouseClick(f.child<QPushButton>("SearchNetworkButton"), Qt::LeftButton);
-    collect(wizard, shown, faults);
-    f.clickRadio("OfflineButton");
-    if (!f.click(QWizard::NextButton))
-        return false;
-    collect(wizard, shown, faults);
+// Keys for the focused widget: names as in "Ctrl+A", text after "=",
+// "$queue" for the queue's name; after "?" a key for the next modal window.
+void type(const QString &keys, const QString &queue)
+{
+    for (const QString &token : keys.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        // Offscreen no window manager activates the window a dialog leaves.
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (!QApplication::focusWidget() && window->isVisible()) {
+                window->activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(window));
+            }
+        }
+        QWidget *focus = QApplication::focusWidget();
+        if (token.startsWith(QLatin1Char('?'))) {
+            QTimer::singleShot(0, [key = QKeySequence::fromString(token.mid(1))[0]] {
+                if (auto *modal = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+                    questions << modal->windowTitle() + QLatin1Char('|') + modal->text();
+                    QTest::keyClick(modal, key.key(), key.keyboardModifiers());
+                }
+            });
+            continue;
+        }
+        if (token.startsWith(QLatin1Char('=')) || token == QLatin1String("$queue")) {
+            QTest::keyClicks(focus, token == QLatin1String("$queue") ? queue : token.mid(1));
+        } else {
+            const QKeyCombination key = QKeySequence::fromString(token)[0];
+            QTest::keyClick(focus, key.key(), key.keyboardModifiers());
+        }
+        // An in-place editor hands its text over from the event loop.
+        QCoreApplication::processEvents();
+    }
+}
 
-    if (!f.typePort(QStringLiteral("socket://127.0.0.1:9")) || !f.click(QWizard::NextButton))
-        return false;
-    collect(wizard, shown, faults);
+// What a screen reader should say for a label: the text the user sees, no-break
+// spaces (French "Imprimante :") aside, which plain text makes blanks.
+QString shownText(const QLabel *label)
+{
+    QTextDocument document;
+    document.setHtml(label->text());
+    return QString(document.toPlainText()).remove(QLatin1Char('&'));
+}
 
-    if (!f.toNamePage(Driver))
-        return false;
-    collect(wizard, shown, faults);
-    auto *name = f.child<QLineEdit>("NameEdit");
-    name->selectAll();
-    QTest::keyClicks(name, queue);
-    if (!f.click(QWizard::NextButton) || wizard->currentId() != W::FinishPage)
-        return false;
-    collect(wizard, shown, faults);
-    return true;
+// What keeps the current page from keyboard and screen reader users.
+QStringList pageFaults(const W *wizard)
+{
+    static const QList<QAccessible::Role> controlRoles = {
+        QAccessible::PushButton, QAccessible::RadioButton, QAccessible::CheckBox, QAccessible::ComboBox,
+        QAccessible::EditableText, QAccessible::List, QAccessible::Tree, QAccessible::Slider};
+    const QWidget *page = wizard->currentPage();
+    const QString at = QStringLiteral("page %1: ").arg(wizard->currentId());
+    QStringList faults;
+    QList<QWidget *> controls;
+    for (QWidget *w : page->findChildren<QWidget *>()) {
+        QAccessibleInterface *a = accessible(w);
+        if (!w->isVisible() || !a)
+            continue;
+        const QString name = a->text(QAccessible::Name);
+        const auto *label = qobject_cast<QLabel *>(w);
+        if (label && !label->text().isEmpty() && QString(name).replace(QChar::Nbsp, u' ') != shownText(label))
+            faults << at + '"' + name + "\" read for the label " + label->text();
+        if (label && label->text().endsWith(QLatin1Char(':'))) {
+            const auto related = a->relations(QAccessible::Labelled);
+            if (!label->buddy() || std::none_of(related.cbegin(), related.cend(), [&](const auto &r) {
+                    return r.first->object() == label->buddy();
+                }))
+                faults << at + label->text() + " names no field";
+        }
+        if (!controlRoles.contains(a->role()))
+            continue;
+        if (name.isEmpty())
+            faults << at + w->objectName() + " has no name";
+        if (w->isEnabled())
+            controls << w;
+    }
+    if (!controls.isEmpty() && !page->isAncestorOf(QApplication::focusWidget()))
+        faults << at + "the focus is not on the page";
+
+    // Tab goes round the window and back; of a group it visits one button.
+    QWidget *start = QApplication::focusWidget();
+    QSet<QWidget *> reached;
+    for (int i = 0; start && i < 30 && (i == 0 || QApplication::focusWidget() != start); ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const auto *button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
+        for (QWidget *w : button && button->group() ? button->group()->buttons() : QList<QAbstractButton *>{})
+            reached << w;
+        reached << QApplication::focusWidget();
+    }
+    for (QWidget *w : std::as_const(controls)) {
+        if (!reached.contains(w))
+            faults << at + w->objectName() + " is out of Tab's reach";
+    }
+    return faults;
 }
 
 // The package tree of a fixture gets the compiled translations and the
@@ -206,21 +269,16 @@ class TestTranslations : public QObject
 {
     Q_OBJECT
 
-    QString m_queue;
-    Shown m_english;
+    // What the wizard showed in English, by fixture machine.
+    QMap<QString, Shown> m_english;
 
 private slots:
     void initTestCase()
     {
         QW_USE_SHARED_SCHEDULER();
-        m_queue = QStringLiteral("tr%1").arg(QCoreApplication::applicationPid());
-        WizardFixture f(QStringLiteral("usb with id"));
-        QVERIFY(f.load());
-        QStringList faults;
-        const bool walked = walk(f, m_queue, m_english, &faults);
-        CUPSManager::m_CUPSManagerInstance.deletePrinter(m_queue);
-        QVERIFY(walked);
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+        // Interfaces exist without it; active, Qt also sends the change
+        // events a screen reader gets.
+        QAccessible::setActive(true);
     }
 
     void cleanup()
@@ -277,44 +335,111 @@ private slots:
 
     void wizardPages_data()
     {
-        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("locale");  // empty: English
+        QTest::addColumn<QString>("machine");
+        QTest::addColumn<QStringList>("keys");  // one step after another
+        QTest::addColumn<QString>("uri");
+        QTest::addColumn<QString>("optionRow");  // read in the options dialog
         QTest::addColumn<QString>("windowTitle");
-        QTest::newRow("German") << "de_DE" << "Drucker hinzufügen";
-        QTest::newRow("French") << "fr_FR" << "Ajouter une imprimante";
-        QTest::newRow("Spanish") << "es_ES" << "Añadir impresora";
+
+        // Local devices need the package's backend: the queues get a port
+        // typed by hand. Cancel's question takes No from Return and Escape;
+        // the network is searched on the way.
+        const QStringList local{ "?Return Escape ?Escape Escape Return", "Down Tab Space",
+                                 "Shift+Tab Shift+Tab Down Return", "End Up Up Up F2 =printer.local/q Return Return",
+                                 "Return", "Ctrl+A $queue Tab =Lab Return" };
+        const QString uri = "lpd://printer.local/q";
+        QTest::newRow("English") << "" << "usb with id" << local << uri << "Resolution: 600 dpi" << "Add Printer";
+        QTest::newRow("German") << "de_DE" << "usb with id" << local << uri << "Resolution: 600 dpi"
+                                << "Drucker hinzufügen";
+        QTest::newRow("French") << "fr_FR" << "usb with id" << local << uri << "Resolution: 600 dpi"
+                                << "Ajouter une imprimante";
+        QTest::newRow("Spanish") << "es_ES" << "usb with id" << local << uri << "Resolution: 600 dpi"
+                                 << "Añadir impresora";
+        // The checked type has no device: the arrows check the next one.
+        QTest::newRow("no local printer")
+            << "" << "empty"
+            << QStringList{ "Return", "Down Return", "End Up Up Up Up F2 =127.0.0.1:9 Return Return", "Space Return",
+                            "Ctrl+A $queue Tab =Lab Return" }
+            << "socket://127.0.0.1:9" << "Color Mode: Colour" << "Add Printer";
     }
 
-    // The six pages, the Cancel question and the wizard's buttons speak the
-    // language: no text is left as it reads in English, the buttons are
-    // Qt's own translation, every text fits and no mnemonic is used twice
-    // on a page.
+    // From the welcome page to the queue and its options with keys only.
+    // Each page is usable by keyboard and screen reader, every text fits, no
+    // mnemonic is used twice on a page; in another language no text is left
+    // as it reads in English and the wizard's buttons are Qt's translation.
     void wizardPages()
     {
         QFETCH(QString, locale);
+        QFETCH(QString, machine);
+        QFETCH(QStringList, keys);
+        QFETCH(QString, uri);
+        QFETCH(QString, optionRow);
         QFETCH(QString, windowTitle);
-        WizardFixture f(QStringLiteral("usb with id"));
+        QVERIFY2(locale.isEmpty() || m_english.contains(machine), "the English row runs first");
+        const QString queue = QStringLiteral("kbd%1").arg(QCoreApplication::applicationPid());
+        WizardFixture f(machine);
         installLanguageFiles(f);
-        installTranslations(*qApp, locale);
+        if (!locale.isEmpty())
+            installTranslations(*qApp, locale);
+        // A network printer that tells nothing about itself.
+        QVERIFY(f.addScript("bin/netdiscovery", "#!/bin/sh\necho 'ip: 127.0.0.1 slp: 0,0,0,0 snmp: 1,0,1 dsc: \"\"'\n"));
         QVERIFY(f.load());
         Shown shown;
         QStringList faults;
-        const bool walked = walk(f, m_queue, shown, &faults);
-        CUPSManager::m_CUPSManagerInstance.deletePrinter(m_queue);
-        QVERIFY(walked);
+        questions.clear();
+        for (const QString &step : std::as_const(keys)) {
+            collect(f.wizard(), shown, &faults);
+            faults << pageFaults(f.wizard());
+            type(step, queue);
+        }
+        const auto removeQueue = qScopeGuard([&] { CUPSManager::m_CUPSManagerInstance.deletePrinter(queue); });
+        QCOMPARE(f.wizard()->currentId(), int(W::FinishPage));
+        collect(f.wizard(), shown, &faults);
+        faults << pageFaults(f.wizard());
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+        QCOMPARE(questions.size(), keys.join(' ').count('?'));
+        shown.insert("0/questions", questions.join('\n'));
+        CUPSPrinter printer;
+        QVERIFY(CUPSManager::m_CUPSManagerInstance.findPrinter(queue, printer));
+        QCOMPARE(printer.DeviceURI(), uri);
+        QCOMPARE(printer.Location(), QStringLiteral("Lab"));
+
+        // The options dialog: the tree's rows read with option and value,
+        // the choices named by the option, Escape closes it.
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("TestButton"));
+        type("Tab", queue);
+        QString read;
+        QTimer::singleShot(0, [&] {
+            auto *dialog = qobject_cast<PPDDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            type("Down Down Down", queue);
+            read = accessible(dialog->findChild<QTreeWidget *>())->focusChild()->text(QAccessible::Name) + '|'
+                + accessible(dialog->findChild<QListWidget *>())->text(QAccessible::Name);
+            type("Escape", queue);
+        });
+        type("Return", queue);
+        QCOMPARE(read, optionRow + '|' + optionRow.section(':', 0, 0));
+        QVERIFY(!QApplication::activeModalWidget());
 
         QCOMPARE(shown.value("0/window"), windowTitle);
-        QCOMPARE(shown.keys(), m_english.keys());
+        if (locale.isEmpty()) {
+            m_english.insert(machine, shown);
+            return;
+        }
+        const Shown english = m_english.value(machine);
+        QCOMPARE(shown.keys(), english.keys());
         QStringList untranslated;
         for (auto it = shown.cbegin(); it != shown.cend(); ++it) {
-            if (it.value() == m_english.value(it.key()) && !sameInEveryLanguage(it.value()))
+            if (it.value() == english.value(it.key()) && !sameInEveryLanguage(it.value()))
                 untranslated << it.key() + ": " + it.value();
         }
         QVERIFY2(untranslated.isEmpty(), qPrintable(untranslated.join('\n')));
         for (auto which : {QWizard::BackButton, QWizard::NextButton, QWizard::CancelButton, QWizard::HelpButton}) {
             const QString key = QStringLiteral("1/wizard:%1").arg(int(which));
-            QCOMPARE(shown.value(key), QCoreApplication::translate("QWizard", qPrintable(m_english.value(key))));
+            QCOMPARE(shown.value(key), QCoreApplication::translate("QWizard", qPrintable(english.value(key))));
         }
-        QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
     }
 
     void helpPages_data()
@@ -373,8 +498,8 @@ private slots:
         QVERIFY(QDir().mkpath(f.rootDir() + "/bin"));
         QVERIFY(QFile::copy(TestPaths::binaryDir() + "/tools/printertest/printertest", program));
         LoopbackPrinter printer;
-        const TestQueue queue(m_queue + "_" + QString(lang).remove(QRegularExpression("[._-].*")), printer.deviceUri(),
-                              "acme-laser1610.ppd");
+        const TestQueue queue(QStringLiteral("tr%1_%2").arg(QCoreApplication::applicationPid()).arg(lang.left(2)),
+                              printer.deviceUri(), "acme-laser1610.ppd");
         QVERIFY2(queue.isMade(), qPrintable(queue.error()));
 
         QProcessEnvironment env = TestSupport::environmentWithout({"LC_ALL", "LC_MESSAGES", "LANGUAGE"});
