@@ -53,11 +53,39 @@ bool sameInEveryLanguage(const QString &text)
     return rx.match(text).hasMatch();
 }
 
-// Collects the visible texts of the current page and the wizard's buttons.
-// A keyboard mnemonic of the page used twice, or also by a wizard button,
-// and a label or button too narrow for its text land in *faults.
-void collect(const W *wizard, Shown &shown, QStringList *faults)
+// What a screen reader should say for a label: the text the user sees, no-break
+// spaces (French "Imprimante :") aside, which plain text makes blanks.
+QString shownText(const QLabel *label)
 {
+    QTextDocument document;
+    document.setHtml(label->text());
+    return QString(document.toPlainText()).remove(QLatin1Char('&'));
+}
+
+// Tab goes round the window and back; of a group it visits one button.
+QSet<QWidget *> reachedByTab()
+{
+    QWidget *start = QApplication::focusWidget();
+    QSet<QWidget *> reached;
+    for (int i = 0; start && i < 30 && (i == 0 || QApplication::focusWidget() != start); ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const auto *button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
+        for (QWidget *w : button && button->group() ? button->group()->buttons() : QList<QAbstractButton *>{})
+            reached << w;
+        reached << QApplication::focusWidget();
+    }
+    return reached;
+}
+
+// Collects the visible texts of the current page and the wizard's buttons.
+// Into *faults go a keyboard mnemonic of the page used twice, or also by a
+// wizard button, a label or button too narrow for its text, and what keeps
+// the page from keyboard and screen reader users.
+void checkPage(const W *wizard, Shown &shown, QStringList *faults)
+{
+    static const QList<QAccessible::Role> controlRoles = {
+        QAccessible::PushButton, QAccessible::RadioButton, QAccessible::CheckBox, QAccessible::ComboBox,
+        QAccessible::EditableText, QAccessible::List, QAccessible::Tree, QAccessible::Slider};
     const QString page = QString::number(wizard->currentId()) + QLatin1Char('/');
     auto add = [&](const QString &key, const QString &text) {
         if (!text.isEmpty())
@@ -75,7 +103,8 @@ void collect(const W *wizard, Shown &shown, QStringList *faults)
     add(QStringLiteral("window"), wizard->windowTitle());
 
     QWidget *root = wizard->currentPage();
-    for (const QWidget *w : root->findChildren<QWidget *>()) {
+    QList<QWidget *> controls;
+    for (QWidget *w : root->findChildren<QWidget *>()) {
         if (!w->isVisibleTo(root))
             continue;
         const QString key = objectPath(w, root);
@@ -83,7 +112,8 @@ void collect(const W *wizard, Shown &shown, QStringList *faults)
         add(key + QStringLiteral(":accessibleName"), w->accessibleName());
         QString mnemonicText;
         bool oneLine = false;
-        if (auto *label = qobject_cast<const QLabel *>(w)) {
+        const auto *label = qobject_cast<const QLabel *>(w);
+        if (label) {
             add(key, label->text());
             mnemonicText = label->buddy() ? label->text() : QString();
             oneLine = !label->wordWrap();
@@ -107,21 +137,40 @@ void collect(const W *wizard, Shown &shown, QStringList *faults)
         if (oneLine && w->sizeHint().width() > w->width())
             *faults << page + key + QStringLiteral(" is cut off");
         const QKeySequence mnemonic = QKeySequence::mnemonic(mnemonicText);
-        if (mnemonic.isEmpty())
-            continue;
-        if (taken.contains(mnemonic))
+        if (!mnemonic.isEmpty() && taken.contains(mnemonic))
             *faults << page + taken.value(mnemonic) + QStringLiteral(" / ") + mnemonicText;
-        taken.insert(mnemonic, mnemonicText);
+        if (!mnemonic.isEmpty())
+            taken.insert(mnemonic, mnemonicText);
+
+        QAccessibleInterface *a = QAccessible::queryAccessibleInterface(w);
+        if (!a)
+            continue;
+        const QString name = a->text(QAccessible::Name);
+        if (label && !label->text().isEmpty() && QString(name).replace(QChar::Nbsp, u' ') != shownText(label))
+            *faults << page + key + QStringLiteral(" reads \"%1\"").arg(name);
+        if (label && label->text().endsWith(QLatin1Char(':'))) {
+            const auto related = a->relations(QAccessible::Labelled);
+            if (!label->buddy() || std::none_of(related.cbegin(), related.cend(), [&](const auto &r) {
+                    return r.first->object() == label->buddy();
+                }))
+                *faults << page + key + QStringLiteral(" names no field");
+        }
+        if (controlRoles.contains(a->role()) && name.isEmpty())
+            *faults << page + key + QStringLiteral(" has no name");
+        if (controlRoles.contains(a->role()) && w->isEnabled())
+            controls << w;
+    }
+    if (!controls.isEmpty() && !root->isAncestorOf(QApplication::focusWidget()))
+        *faults << page + QStringLiteral("the focus is not on the page");
+    const QSet<QWidget *> reached = reachedByTab();
+    for (QWidget *w : std::as_const(controls)) {
+        if (!reached.contains(w))
+            *faults << page + objectPath(w, root) + QStringLiteral(" is out of Tab's reach");
     }
 }
 
 // The questions answered on the way, as "title|text".
 QStringList questions;
-
-QAccessibleInterface *accessible(QObject *object)
-{
-    return QAccessible::queryAccessibleInterface(object);
-}
 
 // Keys for the focused widget: names as in "Ctrl+A", text after "=",
 // "$queue" for the queue's name; after "?" a key for the next modal window.
@@ -154,67 +203,6 @@ void type(const QString &keys, const QString &queue)
         // An in-place editor hands its text over from the event loop.
         QCoreApplication::processEvents();
     }
-}
-
-// What a screen reader should say for a label: the text the user sees, no-break
-// spaces (French "Imprimante :") aside, which plain text makes blanks.
-QString shownText(const QLabel *label)
-{
-    QTextDocument document;
-    document.setHtml(label->text());
-    return QString(document.toPlainText()).remove(QLatin1Char('&'));
-}
-
-// What keeps the current page from keyboard and screen reader users.
-QStringList pageFaults(const W *wizard)
-{
-    static const QList<QAccessible::Role> controlRoles = {
-        QAccessible::PushButton, QAccessible::RadioButton, QAccessible::CheckBox, QAccessible::ComboBox,
-        QAccessible::EditableText, QAccessible::List, QAccessible::Tree, QAccessible::Slider};
-    const QWidget *page = wizard->currentPage();
-    const QString at = QStringLiteral("page %1: ").arg(wizard->currentId());
-    QStringList faults;
-    QList<QWidget *> controls;
-    for (QWidget *w : page->findChildren<QWidget *>()) {
-        QAccessibleInterface *a = accessible(w);
-        if (!w->isVisible() || !a)
-            continue;
-        const QString name = a->text(QAccessible::Name);
-        const auto *label = qobject_cast<QLabel *>(w);
-        if (label && !label->text().isEmpty() && QString(name).replace(QChar::Nbsp, u' ') != shownText(label))
-            faults << at + '"' + name + "\" read for the label " + label->text();
-        if (label && label->text().endsWith(QLatin1Char(':'))) {
-            const auto related = a->relations(QAccessible::Labelled);
-            if (!label->buddy() || std::none_of(related.cbegin(), related.cend(), [&](const auto &r) {
-                    return r.first->object() == label->buddy();
-                }))
-                faults << at + label->text() + " names no field";
-        }
-        if (!controlRoles.contains(a->role()))
-            continue;
-        if (name.isEmpty())
-            faults << at + w->objectName() + " has no name";
-        if (w->isEnabled())
-            controls << w;
-    }
-    if (!controls.isEmpty() && !page->isAncestorOf(QApplication::focusWidget()))
-        faults << at + "the focus is not on the page";
-
-    // Tab goes round the window and back; of a group it visits one button.
-    QWidget *start = QApplication::focusWidget();
-    QSet<QWidget *> reached;
-    for (int i = 0; start && i < 30 && (i == 0 || QApplication::focusWidget() != start); ++i) {
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        const auto *button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
-        for (QWidget *w : button && button->group() ? button->group()->buttons() : QList<QAbstractButton *>{})
-            reached << w;
-        reached << QApplication::focusWidget();
-    }
-    for (QWidget *w : std::as_const(controls)) {
-        if (!reached.contains(w))
-            faults << at + w->objectName() + " is out of Tab's reach";
-    }
-    return faults;
 }
 
 // The package tree of a fixture gets the compiled translations and the
@@ -389,14 +377,12 @@ private slots:
         QStringList faults;
         questions.clear();
         for (const QString &step : std::as_const(keys)) {
-            collect(f.wizard(), shown, &faults);
-            faults << pageFaults(f.wizard());
+            checkPage(f.wizard(), shown, &faults);
             type(step, queue);
         }
         const auto removeQueue = qScopeGuard([&] { CUPSManager::m_CUPSManagerInstance.deletePrinter(queue); });
         QCOMPARE(f.wizard()->currentId(), int(W::FinishPage));
-        collect(f.wizard(), shown, &faults);
-        faults << pageFaults(f.wizard());
+        checkPage(f.wizard(), shown, &faults);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
         QCOMPARE(questions.size(), keys.join(' ').count('?'));
         shown.insert("0/questions", questions.join('\n'));
@@ -415,8 +401,9 @@ private slots:
             if (!dialog)
                 return;
             type("Down Down Down", queue);
-            read = accessible(dialog->findChild<QTreeWidget *>())->focusChild()->text(QAccessible::Name) + '|'
-                + accessible(dialog->findChild<QListWidget *>())->text(QAccessible::Name);
+            const auto name = [](QAccessibleInterface *a) { return a->text(QAccessible::Name); };
+            read = name(QAccessible::queryAccessibleInterface(dialog->findChild<QTreeWidget *>())->focusChild()) + '|'
+                + name(QAccessible::queryAccessibleInterface(dialog->findChild<QListWidget *>()));
             type("Escape", queue);
         });
         type("Return", queue);
