@@ -328,6 +328,7 @@ private slots:
         QTest::addColumn<QStringList>("keys");  // one step after another
         QTest::addColumn<QString>("uri");
         QTest::addColumn<QString>("optionRow");  // read in the options dialog
+        QTest::addColumn<QString>("stored");     // the choice after it
         QTest::addColumn<QString>("windowTitle");
 
         // Local devices need the package's backend: the queues get a port
@@ -337,19 +338,19 @@ private slots:
                                  "Shift+Tab Shift+Tab Down Return", "End Up Up Up F2 =printer.local/q Return Return",
                                  "Return", "Ctrl+A $queue Tab =Lab Return" };
         const QString uri = "lpd://printer.local/q";
-        QTest::newRow("English") << "" << "usb with id" << local << uri << "Resolution: 600 dpi" << "Add Printer";
-        QTest::newRow("German") << "de_DE" << "usb with id" << local << uri << "Resolution: 600 dpi"
+        QTest::newRow("English") << "" << "usb with id" << local << uri << "Resolution: 600 dpi" << "1200dpi" << "Add Printer";
+        QTest::newRow("German") << "de_DE" << "usb with id" << local << uri << "Resolution: 600 dpi" << "1200dpi"
                                 << "Drucker hinzufügen";
-        QTest::newRow("French") << "fr_FR" << "usb with id" << local << uri << "Resolution: 600 dpi"
+        QTest::newRow("French") << "fr_FR" << "usb with id" << local << uri << "Resolution: 600 dpi" << "1200dpi"
                                 << "Ajouter une imprimante";
-        QTest::newRow("Spanish") << "es_ES" << "usb with id" << local << uri << "Resolution: 600 dpi"
+        QTest::newRow("Spanish") << "es_ES" << "usb with id" << local << uri << "Resolution: 600 dpi" << "1200dpi"
                                  << "Añadir impresora";
         // The checked type has no device: the arrows check the next one.
         QTest::newRow("no local printer")
             << "" << "empty"
             << QStringList{ "Return", "Down Return", "End Up Up Up Up F2 =127.0.0.1:9 Return Return", "Space Return",
                             "Ctrl+A $queue Tab =Lab Return" }
-            << "socket://127.0.0.1:9" << "Color Mode: Colour" << "Add Printer";
+            << "socket://127.0.0.1:9" << "Color Mode: Colour" << "Gray" << "Add Printer";
     }
 
     // From the welcome page to the queue and its options with keys only.
@@ -363,6 +364,7 @@ private slots:
         QFETCH(QStringList, keys);
         QFETCH(QString, uri);
         QFETCH(QString, optionRow);
+        QFETCH(QString, stored);
         QFETCH(QString, windowTitle);
         QVERIFY2(locale.isEmpty() || m_english.contains(machine), "the English row runs first");
         const QString queue = QStringLiteral("kbd%1").arg(QCoreApplication::applicationPid());
@@ -392,7 +394,8 @@ private slots:
         QCOMPARE(printer.Location(), QStringLiteral("Lab"));
 
         // The options dialog: the tree's rows read with option and value,
-        // the choices named by the option, Escape closes it.
+        // the choices named by the option; Return stores the choice taken
+        // with the arrows on the scheduler.
         QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("TestButton"));
         type("Tab", queue);
         QString read;
@@ -400,15 +403,20 @@ private slots:
             auto *dialog = qobject_cast<PPDDialog *>(QApplication::activeModalWidget());
             if (!dialog)
                 return;
+            shown.insert("5/options", dialog->windowTitle());
             type("Down Down Down", queue);
             const auto name = [](QAccessibleInterface *a) { return a->text(QAccessible::Name); };
             read = name(QAccessible::queryAccessibleInterface(dialog->findChild<QTreeWidget *>())->focusChild()) + '|'
                 + name(QAccessible::queryAccessibleInterface(dialog->findChild<QListWidget *>()));
-            type("Escape", queue);
+            type("Tab Down Return", queue);
         });
         type("Return", queue);
         QCOMPARE(read, optionRow + '|' + optionRow.section(':', 0, 0));
         QVERIFY(!QApplication::activeModalWidget());
+        QVERIFY(shown.value("5/options").contains(queue));
+        QString options;
+        QCOMPARE(CupsSandbox::run({ "lpoptions", "-p", queue, "-l" }, &options), 0);
+        QVERIFY2(options.contains(" *" + stored), qPrintable(options));
 
         QCOMPARE(shown.value("0/window"), windowTitle);
         if (locale.isEmpty()) {
