@@ -64,10 +64,7 @@ private slots:
         m_sandbox.use();
     }
 
-    void init()
-    {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not).*")));
-    }
+    void init() { TestSupport::failOnWarnings(); }
 
     void cleanup()
     {
@@ -137,9 +134,7 @@ private slots:
             QTest::mouseClick(test, Qt::LeftButton);
             QCOMPARE(test->isEnabled(), !*program);
             QTRY_VERIFY(test->isEnabled());
-            QFile file(args);
-            QCOMPARE(file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray(),
-                     *program ? name.toUtf8() + '\n' : QByteArray());
+            QCOMPARE(TestSupport::readFile(args), *program ? name.toUtf8() + '\n' : QByteArray());
         }
         QTest::keyClick(f.wizard(), Qt::Key_Escape);
         QCOMPARE(f.wizard()->result(), int(QDialog::Accepted));
@@ -203,10 +198,8 @@ private slots:
         QCOMPARE(summary.contains("Its paper size could not be set to " + paper), !faults.isEmpty());
         QCOMPARE(CUPSManager::m_CUPSManagerInstance.defaultPrinterName() == name, faults.isEmpty());
 
-        QFile recorded(log);
-        const QByteArray calls = recorded.open(QIODevice::ReadOnly) ? recorded.readAll() : QByteArray();
-        QCOMPARE(QString::fromUtf8(calls), driverDefault == paper ? QString()
-                                           : QStringLiteral("-p %1 -o PageSize=%2 -o PageRegion=%2\n").arg(name, paper));
+        const QString lpadminCall = QStringLiteral("-p %1 -o PageSize=%2 -o PageRegion=%2\n").arg(name, paper);
+        QCOMPARE(QString::fromUtf8(TestSupport::readFile(log)), driverDefault == paper ? QString() : lpadminCall);
         QCOMPARE(defaultChoice(name, "PageSize"), faults.isEmpty() ? paper : driverDefault);
     }
 
@@ -344,14 +337,12 @@ private:
 
     qint64 schedulerPid() const
     {
-        QFile file(m_sandbox.directory() + "/cupsd.pid");
-        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toLongLong() : 0;
+        return TestSupport::readFile(m_sandbox.directory() + "/cupsd.pid").trimmed().toLongLong();
     }
 
     QByteArray queuePPD(const QString &name) const
     {
-        QFile file(m_sandbox.directory() + "/etc/ppd/" + name + ".ppd");
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return TestSupport::readFile(m_sandbox.directory() + "/etc/ppd/" + name + ".ppd");
     }
 
     // The default choice of an option in the queue's driver.
