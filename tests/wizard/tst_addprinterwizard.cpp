@@ -119,7 +119,6 @@ private slots:
         QTest::addColumn<bool>("next");
 
         QTest::newRow("a group") << "Network" << "" << 0 << false;
-        QTest::newRow("a device") << "/dev/usb/lp1" << "" << 0 << true;
         QTest::newRow("typing a host") << "ipp://" << "printer.local" << 0 << true;
         QTest::newRow("typing, then erasing") << "ipp://" << "h\b" << 0 << false;
         QTest::newRow("typed and given up") << "lpd://" << "host/queue" << int(Qt::Key_Escape) << false;
@@ -222,7 +221,6 @@ private slots:
 
         QTest::newRow("page of the help folder") << QByteArray() << true;
         QTest::newRow("page missing from the help folder") << QByteArray("Missing.htm#network") << false;
-        QTest::newRow("missing local file") << QByteArray("file:///nonexistent/network.htm") << false;
         QTest::newRow("remote page") << QByteArray("https://printers.example/network") << true;
     }
 
