@@ -458,19 +458,30 @@ private slots:
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("ownFolder");
         QTest::addColumn<QString>("page");
+        QTest::addColumn<QByteArray>("networkLink");  // in the form; empty: the program's
+        QTest::addColumn<QString>("network");  // the button's address, "#..." on the page; empty: hidden
 
-        QTest::newRow("French of Canada") << "fr_CA" << "" << "fr/" + HelpPage;
-        QTest::newRow("closest locale first") << "de_AT" << "de_AT" << "de_AT/" + HelpPage;
-        QTest::newRow("not translated") << "pt_BR" << "" << HelpPage;
+        QTest::newRow("French of Canada") << "fr_CA" << "" << "fr/" + HelpPage << QByteArray() << "#network";
+        QTest::newRow("closest locale first") << "de_AT" << "de_AT" << "de_AT/" + HelpPage << QByteArray()
+                                              << "#network";
+        QTest::newRow("not translated") << "pt_BR" << "" << HelpPage << QByteArray() << "#network";
+        QTest::newRow("network page missing from the folder")
+            << "pt_BR" << "" << HelpPage << QByteArray("Missing.htm#network") << "";
+        QTest::newRow("remote network page") << "pt_BR" << "" << HelpPage
+                                             << QByteArray("https://printers.example/network")
+                                             << "https://printers.example/network";
     }
 
     // Help and the network printer button open the page in the user's
-    // language where there is one, else the English page.
+    // language where there is one, else the English page; the button is
+    // hidden when its local page is missing.
     void helpPages()
     {
         QFETCH(QString, locale);
         QFETCH(QString, ownFolder);
         QFETCH(QString, page);
+        QFETCH(QByteArray, networkLink);
+        QFETCH(QString, network);
         WizardFixture f;
         installLanguageFiles(f);
         if (!ownFolder.isEmpty()) {
@@ -481,10 +492,15 @@ private slots:
         QVERIFY(f.addScript("bin/browser", "#!/bin/sh\necho \"$1\" > '" + opened.toUtf8() + "'\n"));
         BrowserLauncher::setCandidates({f.rootDir() + "/bin/browser"});
         installTranslations(*qApp, locale);
-        QVERIFY(f.load());
+        QVERIFY(networkLink.isEmpty() ? f.load()
+                                      : f.load(WizardFixture::programForm(HelpPage.toUtf8() + "#network", networkLink)));
 
         const QString url = QUrl::fromLocalFile(f.shareDir() + "/help/" + page).toString();
-        QCOMPARE(f.child<URLPushButton>("ConfigureNetworkButton")->url(), url + "#network");
+        auto *networkHelp = f.child<URLPushButton>("ConfigureNetworkButton");
+        QVERIFY(f.click(QWizard::NextButton));
+        QCOMPARE(networkHelp->isVisible(), !network.isEmpty());
+        if (!network.isEmpty())
+            QCOMPARE(networkHelp->url(), network.startsWith('#') ? url + network : network);
         QVERIFY(f.click(QWizard::HelpButton));
         QTRY_COMPARE(readAll(opened).trimmed(), url);
     }

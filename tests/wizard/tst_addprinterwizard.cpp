@@ -4,7 +4,6 @@
 #include "fakemachine.h"
 #include "printerportlistview.h"
 #include "testsupport.h"
-#include "urlpushbutton.h"
 #include "wizardfixture.h"
 
 #include <QAccessible>
@@ -212,28 +211,6 @@ private slots:
             QVERIFY(answer == "Yes" || (f.wizard()->currentId() == W::NamePage && location->text() == "Room 7"));
         }
         QCOMPARE(f.wizard()->result(), int(QDialog::Rejected));
-    }
-
-    void networkHelpButton_data()
-    {
-        QTest::addColumn<QByteArray>("url");
-        QTest::addColumn<bool>("visible");
-
-        QTest::newRow("page of the help folder") << QByteArray() << true;
-        QTest::newRow("page missing from the help folder") << QByteArray("Missing.htm#network") << false;
-        QTest::newRow("remote page") << QByteArray("https://printers.example/network") << true;
-    }
-
-    void networkHelpButton()
-    {
-        QFETCH(QByteArray, url);
-        QFETCH(bool, visible);
-
-        WizardFixture f;
-        QVERIFY(f.load(WizardFixture::programForm(url.isEmpty() ? QByteArray() : "PellomarAddPrinterWizard.htm#network",
-                                                  url)));
-        QVERIFY(f.click(QWizard::NextButton));
-        QCOMPARE(f.child<URLPushButton>("ConfigureNetworkButton")->isVisible(), visible);
     }
 
     void localDevices_data()
