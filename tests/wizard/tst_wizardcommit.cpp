@@ -213,7 +213,6 @@ private slots:
 
         const QString inUse = QStringLiteral("Printer '%1' already exists! Choose another name.");
         const QString notAdded = QStringLiteral("Can't add printer!");
-        QTest::newRow("same name") << unique("same") << "acme-laser1610.ppd" << unique("same") << "" << inUse;
         QTest::newRow("letter case aside") << unique("Case") << "acme-laser1610.ppd" << unique("cASE") << "" << inUse;
         QTest::newRow("another vendor's driver")
             << unique("globex") << "globex-pagewriter40.ppd" << unique("globex") << "" << inUse;
