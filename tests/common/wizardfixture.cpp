@@ -131,12 +131,6 @@ bool WizardFixture::typePort(const QString &uri) const
     return QTest::qWaitFor([&] { return ports->selectedURI() == uri; });
 }
 
-bool WizardFixture::toDriverPage(const QString &port) const
-{
-    return toPortsPage() && clickItem(child<PrinterPortListView>("PortsView"), port) && click(QWizard::NextButton)
-        && m_wizard->currentId() == AddPrinterWizard::DriverPage;
-}
-
 bool WizardFixture::toNamePage(const QString &driver) const
 {
     return m_wizard->currentId() == AddPrinterWizard::DriverPage && clickItem(child<QListWidget>("DriversList"), driver)

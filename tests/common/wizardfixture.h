@@ -57,9 +57,6 @@ public:
     // On the ports page: types uri ("socket://host:port") into the entry of
     // its scheme, which then is the port.
     bool typePort(const QString &uri) const;
-    // From the welcome page to the driver page with the local port shown
-    // as port ("/dev/lp0").
-    bool toDriverPage(const QString &port) const;
     // From the driver page with driver chosen to the name page.
     bool toNamePage(const QString &driver) const;
 

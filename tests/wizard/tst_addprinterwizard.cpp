@@ -1,58 +1,112 @@
 #include "AddPrinterWizard.h"
+#include "cupsmanager.h"
 #include "cupssandbox.h"
 #include "fakemachine.h"
 #include "printerportlistview.h"
 #include "testsupport.h"
-#include "urlpushbutton.h"
 #include "wizardfixture.h"
 
+#include <QAccessible>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QtTest>
 
 using W = AddPrinterWizard;
+
+namespace {
+
+// A discovery program that notes its arguments in bin/args and prints the
+// file "output" of the package root.
+const QByteArray FakeDiscovery = "#!/bin/sh\n"
+                                 "here=$(dirname \"$0\")\n"
+                                 "for a in \"$@\"; do printf '[%s]' \"$a\"; done > \"$here/args\"\n"
+                                 "cat \"$here/../output\"\n";
+
+QByteArray record(const char *address, const char *slp, const QByteArray &description = "Office")
+{
+    return QByteArray("ip: ") + address + " slp: " + slp + " snmp: 1,0,1 dsc: \"" + description + "\"\n";
+}
+
+QByteArray arguments(const WizardFixture &f)
+{
+    const QString args = f.rootDir() + QStringLiteral("/bin/args");
+    return QFile::exists(args) ? TestSupport::readFile(args) : QByteArray("none");
+}
+
+// The wizard on the port type page with the network type chosen and a
+// search made; the program prints output, and is missing when that is
+// null.
+bool search(WizardFixture &f, const QByteArray &output)
+{
+    if ((!output.isNull() && !f.addScript(QStringLiteral("bin/netdiscovery"), FakeDiscovery))
+        || !TestSupport::writeFile(f.rootDir() + QStringLiteral("/output"), output) || !f.load()
+        || !f.click(QWizard::NextButton))
+        return false;
+    f.clickRadio("NetworkButton");
+    QTest::mouseClick(f.child<QPushButton>("SearchNetworkButton"), Qt::LeftButton);
+    return f.wizard()->portTypeId() == W::PortType_AutoNetwork;
+}
+
+QStringList entries(const WizardFixture &f)
+{
+    return WizardFixture::texts(f.child<QComboBox>("NetworkList")->model());
+}
+
+} // namespace
 
 class TestAddPrinterWizard : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QW_USE_SHARED_SCHEDULER(); }
+    void initTestCase()
+    {
+        QW_USE_SHARED_SCHEDULER();
+        m_cupsVersion = CUPSManager::m_CUPSManagerInstance.CupsVersion;
+    }
+
     void init() { TestSupport::failOnWarnings(); }
+    void cleanup() { CUPSManager::m_CUPSManagerInstance.CupsVersion = m_cupsVersion; }
 
     void portType_data()
     {
         QTest::addColumn<QString>("machine");
         QTest::addColumn<QString>("radio");
         QTest::addColumn<bool>("localUsable");
+        QTest::addColumn<bool>("next");
 
         // Typing the port by hand: WizardFixture::toPortsPage.
-        QTest::newRow("no local device") << "empty" << "" << false;
-        QTest::newRow("network, nothing found") << "usb with id" << "NetworkButton" << true;
+        QTest::newRow("no local device, not connected now") << "empty" << "OfflineButton" << false << true;
+        QTest::newRow("network, nothing found") << "usb with id" << "NetworkButton" << true << false;
     }
 
-    // The wizard starts on the welcome page with the local port type.
+    // The wizard starts on the welcome page with the local port type. A
+    // screen reader checks another type through the Toggle action; the page
+    // follows as for a click.
     void portType()
     {
         QFETCH(QString, machine);
         QFETCH(QString, radio);
         QFETCH(bool, localUsable);
+        QFETCH(bool, next);
 
         WizardFixture f(machine);
         QVERIFY(f.load());
-        QCOMPARE(f.wizard()->currentId(), int(W::WelcomePage));
         QVERIFY(f.child<QRadioButton>("ConnectedButton")->isChecked());
         QCOMPARE(f.wizard()->portTypeId(), int(W::PortType_Connected));
         QVERIFY(f.click(QWizard::NextButton));
-        if (!radio.isEmpty())
-            f.clickRadio(qPrintable(radio));
+        QCOMPARE(f.nextEnabled(), localUsable);
+        QAccessibleInterface *toggled = QAccessible::queryAccessibleInterface(f.child<QRadioButton>(qPrintable(radio)));
+        toggled->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(toggled->state().checked);
         QCOMPARE(f.child<QRadioButton>("ConnectedButton")->isEnabled(), localUsable);
         QVERIFY(!f.child<QComboBox>("ConnectedList")->isEnabled());
         QVERIFY(!f.child<QComboBox>("NetworkList")->isEnabled());
-        QVERIFY(!f.nextEnabled());
+        QCOMPARE(f.nextEnabled(), next);
     }
 
     void portsPage_data()
@@ -62,9 +116,7 @@ private slots:
         QTest::addColumn<int>("endKey");
         QTest::addColumn<bool>("next");
 
-        QTest::newRow("nothing selected") << "" << "" << 0 << false;
         QTest::newRow("a group") << "Network" << "" << 0 << false;
-        QTest::newRow("a device") << "/dev/usb/lp1" << "" << 0 << true;
         QTest::newRow("typing a host") << "ipp://" << "printer.local" << 0 << true;
         QTest::newRow("typing, then erasing") << "ipp://" << "h\b" << 0 << false;
         QTest::newRow("typed and given up") << "lpd://" << "host/queue" << int(Qt::Key_Escape) << false;
@@ -84,7 +136,7 @@ private slots:
         QVERIFY(f.toPortsPage());
         QVERIFY(!f.nextEnabled());
         if (typed.isEmpty()) {
-            QVERIFY(entry.isEmpty() || WizardFixture::clickItem(f.child<PrinterPortListView>("PortsView"), entry));
+            QVERIFY(WizardFixture::clickItem(f.child<PrinterPortListView>("PortsView"), entry));
         } else {
             QLineEdit *editor = f.renamePort(entry);
             QVERIFY(editor);
@@ -103,7 +155,8 @@ private slots:
     {
         WizardFixture f;
         QVERIFY(f.load());
-        QVERIFY(f.toDriverPage("/dev/lp0"));
+        QVERIFY(f.toPortsPage() && WizardFixture::clickItem(f.child<PrinterPortListView>("PortsView"), "/dev/lp0")
+                && f.click(QWizard::NextButton));
         QVERIFY(!f.nextEnabled());
         // Only the vendor's drivers; a model in two languages is told apart
         // by its language.
@@ -159,29 +212,6 @@ private slots:
         QCOMPARE(f.wizard()->result(), int(QDialog::Rejected));
     }
 
-    void networkHelpButton_data()
-    {
-        QTest::addColumn<QByteArray>("url");
-        QTest::addColumn<bool>("visible");
-
-        QTest::newRow("page of the help folder") << QByteArray() << true;
-        QTest::newRow("page missing from the help folder") << QByteArray("Missing.htm#network") << false;
-        QTest::newRow("missing local file") << QByteArray("file:///nonexistent/network.htm") << false;
-        QTest::newRow("remote page") << QByteArray("https://printers.example/network") << true;
-    }
-
-    void networkHelpButton()
-    {
-        QFETCH(QByteArray, url);
-        QFETCH(bool, visible);
-
-        WizardFixture f;
-        QVERIFY(f.load(WizardFixture::programForm(url.isEmpty() ? QByteArray() : "PellomarAddPrinterWizard.htm#network",
-                                                  url)));
-        QVERIFY(f.click(QWizard::NextButton));
-        QCOMPARE(f.child<URLPushButton>("ConfigureNetworkButton")->isVisible(), visible);
-    }
-
     void localDevices_data()
     {
         QTest::addColumn<QString>("machine");
@@ -234,6 +264,85 @@ private slots:
         QCOMPARE(f.nextEnabled(), !driver.isEmpty());
         QVERIFY(f.toNamePage("Acme MFP 4200 Series"));
     }
+
+    void results_data()
+    {
+        QTest::addColumn<QByteArray>("output");
+        QTest::addColumn<int>("cupsVersion");
+        QTest::addColumn<QString>("entry");
+        QTest::addColumn<QString>("uri");
+        const auto row = [](const char *tag, const QByteArray &output, const QString &entry, const QString &uri,
+                            int cupsVersion = 4) { QTest::newRow(tag) << output << cupsVersion << entry << uri; };
+
+        row("all services: IPP first", record("10.0.0.5", "1,1,1,1"), "10.0.0.5 (IPP,socket,LPD)  Office",
+            "ipp://10.0.0.5/ipp/print");
+        row("raw socket", record("10.0.0.6", "1,0,0,1"), "10.0.0.6 (socket)  Office", "socket://10.0.0.6:9100");
+        row("LPD", record("10.0.0.7", "1,0,1,0"), "10.0.0.7 (LPD)  Office", "lpd://10.0.0.7/lp");
+        row("answered, nothing offered", record("10.0.0.8", "1,0,0,0"), "10.0.0.8 ()  Office", "");
+        row("IPv6: socket", record("fe80::1", "1,1,0,0"), "fe80::1 (IPP)  Office", "socket://[fe80::1]:9100");
+        row("IPv6 before version 2", record("fe80::1", "1,1,0,0") + record("10.0.0.10", "1,0,0,1"),
+            "10.0.0.10 (socket)  Office", "socket://10.0.0.10:9100", 1);
+        row("empty description", record("10.0.0.11", "0,0,0,0", ""), "10.0.0.11 (IPP)  UNKNOWN",
+            "ipp://10.0.0.11/ipp/print");
+        row("long address and description cut", record(QByteArray(50, 'a').constData(), "1,0,0,1", QByteArray(200, 'd')),
+            QString(39, 'a') + " (socket)  " + QString(95, 'd'), "socket://" + QString(39, 'a') + ":9100");
+        QByteArray noise = "# netdiscovery: 3 printer(s)\n\n   # ip: 10.0.0.1 slp: 1,1,1,1 snmp: 1,1,1\n"
+                           "ip: 10.0.0.2 slp: 1,1,1 snmp: 1,1,1\nip: 10.0.0.3 slp: 1,1,1,1 snmp: 1,1\n"
+                           "ip: 10.0.0.4 slp: a,1,1,1 snmp: 1,1,1\n\x01\xff\xfe garbage";
+        noise += '\0';
+        noise += "ip: 10.0.0.5\n" + QByteArray(1030, 'x') + record("10.0.0.15", "0,0,0,0");
+        row("comments, short lines, garbage, the rest of an overlong line", noise + record("10.0.0.14", "1,0,0,1"),
+            "10.0.0.14 (socket)  Office", "socket://10.0.0.14:9100");
+        row("nothing found", "", "", "");
+        row("no program", QByteArray(), "", "");
+    }
+
+    // The first record listed is the port. Without a community the program
+    // gets no arguments.
+    void results()
+    {
+        QFETCH(QByteArray, output);
+        QFETCH(int, cupsVersion);
+        QFETCH(QString, entry);
+        QFETCH(QString, uri);
+
+        CUPSManager::m_CUPSManagerInstance.CupsVersion = cupsVersion;
+        WizardFixture f;
+        QVERIFY(search(f, output));
+        QCOMPARE(entries(f), entry.isEmpty() ? QStringList() : QStringList{ entry });
+        QCOMPARE(f.child<QComboBox>("NetworkList")->isEnabled(), !entry.isEmpty());
+        QCOMPARE(f.wizard()->isPortAssigned(), !uri.isEmpty());
+        QCOMPARE(f.child<PrinterPortListView>("PortsView")->selectedURI(), uri);
+        QCOMPARE(f.nextEnabled(), !uri.isEmpty());
+        QCOMPARE(arguments(f), QByteArray(output.isNull() ? "none" : ""));
+    }
+
+    // Another printer of the list becomes the port, and a search anew
+    // replaces the list; the driver follows the description. The SNMP
+    // community goes to the program as one argument.
+    void choosingAndSearchingAgain()
+    {
+        WizardFixture f;
+        QVERIFY(TestSupport::writeFile(f.shareDir() + "/OEM.ini", "VENDOR=Acme\nSNMP_COMMUNITY=it's $HOME; `id`\n"));
+        QVERIFY(search(f, record("10.0.0.1", "1,1,0,0", "Acme MFP 4200") + record("10.0.0.2", "1,1,0,0")));
+        auto *list = f.child<QComboBox>("NetworkList");
+        auto *ports = f.child<PrinterPortListView>("PortsView");
+        QCOMPARE(f.child<QListWidget>("DriversList")->currentItem()->text(), QStringLiteral("Acme MFP 4200 Series"));
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_Down);
+        QCOMPARE(ports->selectedURI(), QStringLiteral("ipp://10.0.0.2/ipp/print"));
+        QVERIFY(f.nextEnabled());
+        QCOMPARE(arguments(f), QByteArray("[-c][it's $HOME; `id`]"));
+
+        QVERIFY(TestSupport::writeFile(f.rootDir() + "/output", record("10.0.0.3", "1,0,0,0")));
+        QTest::mouseClick(f.child<QPushButton>("SearchNetworkButton"), Qt::LeftButton);
+        QCOMPARE(entries(f), QStringList{ "10.0.0.3 ()  Office" });
+        QCOMPARE(ports->selectedURI(), QString());
+        QVERIFY(!f.nextEnabled());
+    }
+
+private:
+    int m_cupsVersion = -1;
 };
 
 QTEST_MAIN(TestAddPrinterWizard)
