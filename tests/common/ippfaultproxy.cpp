@@ -162,7 +162,6 @@ void IppFaultProxy::serve(int client)
         return text;
     };
     const std::string lower = lowered(head);
-    const bool chunked = lower.find("transfer-encoding: chunked") != std::string::npos;
 
     Rule rule;
     bool faulted = false;
@@ -174,12 +173,8 @@ void IppFaultProxy::serve(int client)
             head.erase(expect, strlen("\r\nexpect: 100-continue"));
             sendAll(client, "HTTP/1.1 100 Continue\r\n\r\n");
         }
-        size_t body = headEnd;
-        if (chunked) {
-            while (in.find("\r\n", headEnd) == std::string::npos && readMore(client, in)) {
-            }
-            body = in.find("\r\n", headEnd) + 2;
-        }
+        // The wizard's requests all carry a Content-Length, none is chunked.
+        const size_t body = headEnd;
         while (in.size() < body + 8 && readMore(client, in)) {
         }
         if (in.size() < body + 8)
@@ -190,8 +185,7 @@ void IppFaultProxy::serve(int client)
             // The whole request first, lest closing early reset the answer.
             const size_t lengthAt = lower.find("\r\ncontent-length:");
             const size_t length = lengthAt == std::string::npos ? 0 : std::stoul(lower.substr(lengthAt + 17));
-            while ((chunked ? in.find("\r\n0\r\n\r\n", headEnd) == std::string::npos : in.size() < headEnd + length)
-                   && readMore(client, in)) {
+            while (in.size() < headEnd + length && readMore(client, in)) {
             }
             sendAll(client, errorAnswer(rule.value, in.substr(body + 4, 4)));
             return;

@@ -22,7 +22,8 @@ bool writeFile(const QString &path, const QByteArray &content, bool executable)
         || file.write(content) != content.size())
         return false;
     file.close();
-    return !executable || file.setPermissions(file.permissions() | QFile::ExeOwner);
+    return !executable
+        || file.setPermissions(file.permissions() | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther);
 }
 
 QByteArray readFile(const QString &path)

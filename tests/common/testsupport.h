@@ -20,7 +20,7 @@
 
 namespace TestSupport {
 
-// Writes content to path, making its directory; executable for the owner
+// Writes content to path, making its directory; executable for everyone
 // when asked. False when any step fails.
 bool writeFile(const QString &path, const QByteArray &content, bool executable = false);
 // The whole file; empty when it cannot be read.

@@ -38,15 +38,6 @@ bool scriptedAnswer(const QString &prompt, QString *user, QString *password)
     return true;
 }
 
-bool writeFile(const QString &path, const QByteArray &text, QFile::Permissions permissions)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.setPermissions(permissions);
-}
-
-constexpr QFile::Permissions Executable = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup
-    | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
-
 } // namespace
 
 // Schedulers with the access policy of a stock Debian system: administration
@@ -111,8 +102,9 @@ private slots:
         const QString record = m_work.filePath(queue + ".done");
         QFile::remove(m_work.filePath("bin/lpadmin"));
         if (!lpadmin.isEmpty()) {
-            QVERIFY(writeFile(m_work.filePath("bin/lpadmin"),
-                              "#!/bin/sh\n" + lpadmin + "\necho finished > '" + record.toUtf8() + "'\n", Executable));
+            QVERIFY(TestSupport::writeFile(m_work.filePath("bin/lpadmin"),
+                                           "#!/bin/sh\n" + lpadmin + "\necho finished > '" + record.toUtf8() + "'\n",
+                                           true));
         }
 
         QProcess commit;

