@@ -36,6 +36,11 @@ bool answers(int port)
     return http != nullptr;
 }
 
+QString scriptPath()
+{
+    return TestPaths::sourceDir() + QStringLiteral("/scripts/cups-sandbox");
+}
+
 void setError(QString *error, const QString &text)
 {
     if (error)
@@ -58,29 +63,15 @@ CupsSandbox::~CupsSandbox()
         stop();
 }
 
-QString CupsSandbox::sharedDirectory()
-{
-    return TestPaths::binaryDir() + QStringLiteral("/cups-sandbox");
-}
-
-QString CupsSandbox::scriptPath()
-{
-    return TestPaths::sourceDir() + QStringLiteral("/scripts/cups-sandbox");
-}
-
 bool CupsSandbox::useShared(QString *error)
 {
-    const QString dir = sharedDirectory();
+    // Where the CTest fixture "cups" keeps its scheduler.
+    const QString dir = TestPaths::binaryDir() + QStringLiteral("/cups-sandbox");
     const QString server = readTrimmed(dir + QStringLiteral("/server"));
-    if (server.isEmpty()) {
-        setError(error, QStringLiteral("The shared CUPS sandbox is not running (%1/server is missing). "
-                                       "Run the test through ctest; its qw_test() needs FIXTURES cups.")
-                            .arg(dir));
-        return false;
-    }
     if (!answers(portOf(server))) {
-        setError(error, QStringLiteral("The shared CUPS sandbox at %1 does not answer; see %2/log/error_log.")
-                            .arg(server, dir));
+        setError(error, QStringLiteral("The shared CUPS sandbox in %1 is not running or does not answer: run the "
+                                       "test through ctest, with FIXTURES cups; see %1/log/error_log.")
+                            .arg(dir));
         return false;
     }
     pointClientAt(server, dir + QStringLiteral("/client"));

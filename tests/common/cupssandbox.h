@@ -31,10 +31,6 @@ public:
     // (CUPS_SERVER) at the fixture's scheduler. False, with the reason in
     // *error, when that scheduler is not there or does not answer.
     static bool useShared(QString *error = nullptr);
-    // Where the fixture keeps its scheduler: <binaryDir>/cups-sandbox.
-    static QString sharedDirectory();
-    // scripts/cups-sandbox of the source tree.
-    static QString scriptPath();
 
     // Runs a program to its end (60 s at most) in the current environment;
     // returns its exit status, or -1 when it could not start, crashed or

@@ -53,14 +53,6 @@ Run run(const QString &program, const QStringList &args, const QProcessEnvironme
     return result;
 }
 
-QProcessEnvironment environmentWithout(const QStringList &names)
-{
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    for (const QString &name : names)
-        env.remove(name);
-    return env;
-}
-
 void failOnWarnings()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not).*")));

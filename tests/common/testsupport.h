@@ -36,8 +36,6 @@ struct Run
 Run run(const QString &program, const QStringList &args,
         const QProcessEnvironment &env = QProcessEnvironment::systemEnvironment(),
         const QByteArray &input = QByteArray(), int timeoutMs = 60000);
-// This process's environment less the variables named.
-QProcessEnvironment environmentWithout(const QStringList &names);
 
 // Answers the next message box that opens within timeoutMs by clicking
 // the button with the text answer (else closes it); "title|text" lands in

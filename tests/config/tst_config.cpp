@@ -85,24 +85,18 @@ private slots:
         QCOMPARE(readFromPackage(), 0);
 
         const auto s = [](const char *v) { return QString::fromLatin1(v); };
+        const QMap<QString, QString> values{
+            {"vendor", s(actx.vendor)}, {"lower", s(actx.vendorLower)}, {"upper", s(actx.vendorUpper)},
+            {"url", s(actx.url)}, {"models", s(actx.models[0])},
+            {"lastModel", s(actx.models[qMax(actx.modelCount - 1, 0)])},
+            {"lastPlugin", s(actx.plugins[qMax(actx.pluginCount - 1, 0)])},
+            {"multiVendor", QString::number(actx.multiVendor)}, {"parPort", QString::number(actx.parPort)},
+            {"portPlugin", QString::number(actx.portPlugin)}, {"scanner", QString::number(actx.scanner)},
+            {"updateGroup", QString::number(actx.updatePrinterGroup)},
+            {"modelCount", QString::number(actx.modelCount)}, {"pluginCount", QString::number(actx.pluginCount)}};
         QStringList got;
-        for (const QString &f : field.split('|')) {
-            if (f == "vendor") got << s(actx.vendor);
-            else if (f == "lower") got << s(actx.vendorLower);
-            else if (f == "upper") got << s(actx.vendorUpper);
-            else if (f == "url") got << s(actx.url);
-            else if (f == "models") got << s(actx.models[0]);
-            else if (f == "lastModel") got << s(actx.models[actx.modelCount - 1]);
-            else if (f == "lastPlugin") got << s(actx.plugins[actx.pluginCount - 1]);
-            else if (f == "multiVendor") got << QString::number(actx.multiVendor);
-            else if (f == "parPort") got << QString::number(actx.parPort);
-            else if (f == "portPlugin") got << QString::number(actx.portPlugin);
-            else if (f == "scanner") got << QString::number(actx.scanner);
-            else if (f == "updateGroup") got << QString::number(actx.updatePrinterGroup);
-            else if (f == "modelCount") got << QString::number(actx.modelCount);
-            else if (f == "pluginCount") got << QString::number(actx.pluginCount);
-            else QFAIL(qPrintable("unknown field " + f));
-        }
+        for (const QString &f : field.split('|'))
+            got << values.value(f, "<unknown field>");
         QCOMPARE(got.join('|'), expected);
     }
 

@@ -105,7 +105,6 @@ private slots:
         QTest::addColumn<QSize>("size");
         QTest::newRow("not square") << "duplex.png" << QSize(16, 14);
         QTest::newRow("capital letters") << "PAGESIZE.PNG" << QSize();
-        QTest::newRow("null") << QString() << QSize();
     }
 
     void pictureLookup()

@@ -228,7 +228,6 @@ private slots:
         QTest::addColumn<QStringList>("args");
         QTest::addColumn<int>("status");
         QTest::newRow("-t 0") << QStringList{ "-t", "0" } << 2;
-        QTest::newRow("-t x") << QStringList{ "-t", "x" } << 2;
         QTest::newRow("unknown") << QStringList{ "-z" } << 2;
         QTest::newRow("-h") << QStringList{ "-h" } << 0;
     }
