@@ -131,8 +131,7 @@ private slots:
     // Renamable entries are marked "*", with their validator's scheme.
     void structure()
     {
-        PrinterPortListView view(nullptr, "PortsView");
-        QCOMPARE(view.objectName(), QStringLiteral("PortsView"));
+        PrinterPortListView view;
         QStringList tree;
         for (int i = 0; i < view.topLevelItemCount(); ++i) {
             QTreeWidgetItem *g = view.topLevelItem(i);
@@ -339,8 +338,7 @@ private slots:
         QFETCH(QString, address);
         QFile::remove(path("out"));
         BrowserLauncher::setCandidates({path("missing"), fakeBrowser("first $x'"), fakeBrowser("second")});
-        URLPushButton button(nullptr, "HelpButton");
-        QCOMPARE(button.objectName(), QStringLiteral("HelpButton"));
+        URLPushButton button;
         QVERIFY(button.setProperty("url", address));
         button.show();
         QVERIFY(QTest::qWaitForWindowExposed(&button));
