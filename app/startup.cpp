@@ -106,13 +106,20 @@ Platform choosePlatform()
 // Without a display Qt can't start at all. Asking for the usage (or
 // getting it for a bad command line) still works in a plain terminal; the
 // wizard itself needs a window, so say so rather than let Qt abort.
-bool prepareForNoDisplay(int argc, char **argv)
+// Whether the command line gets the usage (asked for, or a bad option),
+// read quietly: the real parse later reports the errors.
+bool asksForUsage(int argc, char **argv)
 {
     const int keptOpterr = opterr;
-    opterr = 0; // the real parse below reports the errors
+    opterr = 0;
     const CommandLineOptions early(argc, argv, kShortOptions, kLongOptions);
     opterr = keptOpterr;
-    if (early.contains(QStringLiteral("h")) || early.contains(QStringLiteral("-"))) {
+    return early.contains(QStringLiteral("h")) || early.contains(QStringLiteral("-"));
+}
+
+bool prepareForNoDisplay(bool usage)
+{
+    if (usage) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         return true;
     }
@@ -146,12 +153,13 @@ int queuewizMain(int argc, char **argv)
         fflush(stdout);
     }
 
+    const bool usage = asksForUsage(argc, argv);
     const Platform platform = choosePlatform();
-    if (platform == Platform::Missing && !prepareForNoDisplay(argc, argv))
+    if (platform == Platform::Missing && !prepareForNoDisplay(usage))
         return 1;
     // The scheduler lists the drivers while Qt starts and the forms load.
     // Nothing is logged until the answer is taken, after the logs opened.
-    if (platform != Platform::Missing)
+    if (platform != Platform::Missing && !usage)
         CUPSManager::m_CUPSManagerInstance.sendDriverRequest();
     QtSingleApplication app(QStringLiteral("AddPrinterWizard_SingleApplication"), argc, argv);
     // The browser and the test page must not inherit our choice.
