@@ -5,6 +5,7 @@
 #include "earlydriverrequest.h"
 #include "ipplog.h"
 #include "ipprequest.h"
+#include "listingrecords.h"
 #include "requests.h"
 #include "tempfile.h"
 
@@ -120,25 +121,6 @@ void insertDriver(QMap<QString, CUPSDriver> &drivers, QSet<QString> &sharedModel
     insertUnique(drivers, taggedKey(driver), driver);
 }
 
-// The queues of a listing, one attribute group each, separated by an
-// attribute without a name; take() gets every record that has a name.
-template <class Record, class Take>
-void forEachRecord(ipp_t *response, Take take)
-{
-    Record record;
-    const auto finish = [&] {
-        if (!record.Name().isEmpty())
-            take(record);
-        record = Record();
-    };
-    for (ipp_attribute_t *attr = ippFirstAttribute(response); attr; attr = ippNextAttribute(response)) {
-        record.fillFrom(attr);
-        if (!ippGetName(attr))
-            finish();
-    }
-    finish();
-}
-
 } // namespace
 
 CUPSManager::CUPSManager()
@@ -201,6 +183,12 @@ bool CUPSManager::send(IPPRequest &request, const char *resource)
 bool CUPSManager::sendChecked(IPPRequest &request, const char *resource)
 {
     return send(request, resource) && LastStatus < IPP_STATUS_ERROR_BAD_REQUEST;
+}
+
+bool CUPSManager::sendListing(IPPRequest &request)
+{
+    // "Not found" is the scheduler's answer when it has nothing to list.
+    return send(request) && (LastStatus < IPP_STATUS_ERROR_BAD_REQUEST || LastStatus == IPP_STATUS_ERROR_NOT_FOUND);
 }
 
 bool CUPSManager::sendPlain(int operation, const QString &printerName)
@@ -388,7 +376,7 @@ bool CUPSManager::fetchPrinters(QMap<QString, CUPSPrinter> &printers, int type, 
     printers.clear();
     Requests::GetPrinters request(type, mask);
     request.addKeywordList("requested-attributes", queueAttributes());
-    if (!send(request) || (LastStatus >= IPP_STATUS_ERROR_BAD_REQUEST && LastStatus != IPP_STATUS_ERROR_NOT_FOUND))
+    if (!sendListing(request))
         return false;
     forEachRecord<CUPSPrinter>(request.response(), [&](CUPSPrinter &printer) {
         completeListed(printer);
@@ -498,24 +486,15 @@ bool CUPSManager::listDrivers(QMap<QString, CUPSDriver> &drivers, const QString 
     if (early) {
         LastStatus = IPP_STATUS_OK;
         m_lastError.clear();
-    } else if (!send(request)
-               || (LastStatus >= IPP_STATUS_ERROR_BAD_REQUEST && LastStatus != IPP_STATUS_ERROR_NOT_FOUND)) {
+    } else if (!sendListing(request)) {
         return false;
     }
     ipp_t *response = early ? early.get() : request.response();
     QSet<QString> sharedModels;
-    CUPSDriver driver;
-    auto finish = [&]() {
-        if (!driver.DriverFile().isEmpty() && driver.matchesVendor(vendorFilter))
+    forEachRecord<CUPSDriver>(response, [&](CUPSDriver &driver) {
+        if (driver.matchesVendor(vendorFilter))
             insertDriver(drivers, sharedModels, driver);
-        driver = CUPSDriver();
-    };
-    for (ipp_attribute_t *attr = ippFirstAttribute(response); attr; attr = ippNextAttribute(response)) {
-        driver.fillFrom(attr);
-        if (!ippGetName(attr))
-            finish();
-    }
-    finish();
+    });
     IPPLog::flush(IPPLog::Driver);
     return true;
 }

@@ -153,6 +153,8 @@ private:
 
     // send(), and the answer's status is not an error.
     bool sendChecked(IPPRequest &request, const char *resource = nullptr);
+    // send() that also fails on an error status other than "not found".
+    bool sendListing(IPPRequest &request);
     bool sendPlain(int operation, const QString &printerName);
     bool setPPDName(const QByteArray &uri, const QString &ppdName);
     bool fetchPrinters(QMap<QString, CUPSPrinter> &printers, int type, int mask, const QString &filter);
