@@ -86,19 +86,27 @@ bool isIPv4Address(const QString &text)
     return address.setAddress(text) && address.protocol() == QAbstractSocket::IPv4Protocol;
 }
 
+bool allowed()
+{
+    return true;
+}
+
+bool refused()
+{
+    return false;
+}
+
 } // namespace
 
 UriValidator::UriValidator(int scheme, bool ipv6Allowed, QObject *parent)
-    : QRegularExpressionValidator(parent)
-    , m_scheme(scheme)
-    , m_ipv6Allowed(ipv6Allowed)
+    : UriValidator(scheme, ipv6Allowed ? &allowed : &refused, parent)
 {
 }
 
 UriValidator::UriValidator(int scheme, bool (*ipv6Allowed)(), QObject *parent)
     : QRegularExpressionValidator(parent)
     , m_scheme(scheme)
-    , m_ipv6Decision(ipv6Allowed)
+    , m_ipv6Allowed(ipv6Allowed)
 {
 }
 

@@ -30,7 +30,7 @@ public:
     State validate(QString &input, int &pos) const override;
 
     int scheme() const { return m_scheme; }
-    bool ipv6Allowed() const { return m_ipv6Decision ? m_ipv6Decision() : m_ipv6Allowed; }
+    bool ipv6Allowed() const { return m_ipv6Allowed(); }
 
     // "ipp://", "socket://", ...; empty for NoScheme and unknown ids.
     static QString prefix(int scheme);
@@ -41,8 +41,7 @@ private:
     static bool checkSmb(QString &text, bool ipv6Allowed);
 
     const int m_scheme;
-    const bool m_ipv6Allowed = false;
-    bool (*const m_ipv6Decision)() = nullptr;
+    bool (*const m_ipv6Allowed)();
 };
 
 #endif
