@@ -334,11 +334,13 @@ ipp_t *IPPRequest::receiveInBlocks(http_t *http, http_status_t *status)
     ssize_t n;
     while ((n = httpRead2(http, block.data(), size_t(block.size()))) > 0)
         body.append(block.constData(), n);
-    if (n < 0)
-        return nullptr;
+    return n < 0 ? nullptr : answerFromBytes(body);
+}
+
+ipp_t *IPPRequest::answerFromBytes(QByteArrayView bytes)
+{
     IppPtr answer(ippNew());
-    QByteArrayView rest(body);
-    if (ippReadIO(&rest, readFromMemory, 1, nullptr, answer.get()) != IPP_STATE_DATA)
+    if (ippReadIO(&bytes, readFromMemory, 1, nullptr, answer.get()) != IPP_STATE_DATA)
         return nullptr;
     return answer.release();
 }
@@ -428,12 +430,9 @@ const char *IPPRequest::passwordCallback(const char *prompt, http_t *http, const
                                                                                         : HTTP_STATUS_UNAUTHORIZED));
         return nullptr;
     }
-    if ((s_credentials.accepted || s_credentials.fresh) && s_offered == 0) {
-        ++s_offered;
-        cupsSetUser(s_credentials.user.constData());
-        return s_credentials.password.constData();
-    }
-    if (!askCredentials(QString::fromUtf8(prompt), QString::fromLocal8Bit(cupsUser()), s_processUser))
+    // Kept credentials go first; once refused, the user is asked.
+    const bool kept = (s_credentials.accepted || s_credentials.fresh) && s_offered == 0;
+    if (!kept && !askCredentials(QString::fromUtf8(prompt), QString::fromLocal8Bit(cupsUser()), s_processUser))
         return nullptr;
     ++s_offered;
     // libcups sends the name that cupsUser() gives once this returns.

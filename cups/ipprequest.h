@@ -3,6 +3,7 @@
 
 #include "cupsptr.h"
 
+#include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 
@@ -62,6 +63,8 @@ public:
     // call) and parsed from memory. Null when none came (*status then is
     // HTTP_STATUS_ERROR) or the HTTP status is not 200.
     static ipp_t *receiveInBlocks(http_t *http, http_status_t *status);
+    // An IPP message read from bytes; null when they are not a whole one.
+    static ipp_t *answerFromBytes(QByteArrayView bytes);
 
     // A connection to the scheduler with the request timeouts, for the few
     // libcups calls that take one (cupsGetPPD2); null when none was made.
