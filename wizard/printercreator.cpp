@@ -64,10 +64,8 @@ PrinterCreator::Result PrinterCreator::commit(const CUPSPrinter &printer, const 
 bool PrinterCreator::removeUnfinished(Result &result)
 {
     while (!m_unfinished.isEmpty()) {
-        const QString name = m_unfinished.first();
-        CUPSPrinter found;
-        const bool exists = m_cups.findPrinter(name, found);
-        if ((exists && !m_cups.deletePrinter(name)) || (!exists && !m_cups.answered())) {
+        bool removed = false;
+        if (!removeIfThere(m_unfinished.first(), &removed)) {
             result.reason = m_cups.lastStatusText();
             return false;
         }
@@ -81,16 +79,17 @@ void PrinterCreator::undoCreate(const QString &name, Result &result)
     // The name was free before this commit, so a queue of that name now is
     // the one it began. Without an answer nothing can be removed now; the
     // request may still take effect once the scheduler goes on.
+    if (!m_cups.answered() || !removeIfThere(name, &result.removed))
+        m_unfinished << name;
+}
+
+bool PrinterCreator::removeIfThere(const QString &name, bool *removed) const
+{
     CUPSPrinter found;
-    if (!m_cups.answered()) {
-        m_unfinished << name;
-    } else if (m_cups.findPrinter(name, found)) {
-        result.removed = m_cups.deletePrinter(name);
-        if (!result.removed)
-            m_unfinished << name;
-    } else if (!m_cups.answered()) {
-        m_unfinished << name;
-    }
+    if (!m_cups.findPrinter(name, found))
+        return m_cups.answered();
+    *removed = m_cups.deletePrinter(name);
+    return *removed;
 }
 
 bool PrinterCreator::nameInUse(const QString &name, bool *listed) const
@@ -111,16 +110,19 @@ bool PrinterCreator::create(const CUPSPrinter &printer) const
     return m_cups.addPrinter(printer);
 }
 
+PpdFilePtr PrinterCreator::openDriver(const TempFile &copy)
+{
+    PpdFilePtr ppd(copy.isNull() ? nullptr : ppdOpenFile(QFile::encodeName(copy.path()).constData()));
+    if (ppd)
+        ppdMarkDefaults(ppd.get());
+    return ppd;
+}
+
 bool PrinterCreator::isPaperDefault(const QString &queue, const char *paper) const
 {
     const TempFile copy = m_cups.fetchPPD(queue);
-    if (copy.isNull())
-        return false;
-    const PpdFilePtr ppd(ppdOpenFile(QFile::encodeName(copy.path()).constData()));
-    if (!ppd)
-        return false;
-    ppdMarkDefaults(ppd.get());
-    return ppdIsMarked(ppd.get(), "PageSize", paper) != 0;
+    const PpdFilePtr ppd = openDriver(copy);
+    return ppd && ppdIsMarked(ppd.get(), "PageSize", paper) != 0;
 }
 
 bool PrinterCreator::applyPaperSize(const QString &queue, const char *paper) const
@@ -148,20 +150,19 @@ bool PrinterCreator::applyPaperSize(const QString &queue, const char *paper) con
         qWarning("%s could not be started", qPrintable(m_LpadminProgram));
     }
     // lpadmin may have been refused (it can't ask for a password), be slow,
-    // or be missing: then the driver file is changed through this program's
-    // own, authenticated connection.
-    return isPaperDefault(queue, paper) || setPaperInDriver(queue, paper);
+    // or be missing: unless it has set the paper, the driver file is changed
+    // through this program's own, authenticated connection.
+    return setPaperInDriver(queue, paper);
 }
 
 bool PrinterCreator::setPaperInDriver(const QString &queue, const char *paper) const
 {
     const TempFile fetched = m_cups.fetchPPD(queue);
-    if (fetched.isNull())
-        return false;
-    const PpdFilePtr ppd(ppdOpenFile(QFile::encodeName(fetched.path()).constData()));
+    const PpdFilePtr ppd = openDriver(fetched);
+    if (ppd && ppdIsMarked(ppd.get(), "PageSize", paper))
+        return true;
     if (!ppd || !ppdFindChoice(ppdFindOption(ppd.get(), "PageSize"), paper))
         return false;
-    ppdMarkDefaults(ppd.get());
     // Marking either of the two unmarks the other: a pass for each.
     ppdMarkOption(ppd.get(), "PageSize", paper);
     const TempFile sized = PPDDialog::rewrittenCopy(ppd.get(), fetched.path());

@@ -1,6 +1,9 @@
 #ifndef QUEUEWIZ_PRINTERCREATOR_H
 #define QUEUEWIZ_PRINTERCREATOR_H
 
+#include "ppdfileptr.h"
+#include "tempfile.h"
+
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
@@ -65,8 +68,9 @@ public:
     // when the paper is the default.
     bool applyPaperSize(const QString &queue, const char *paper) const;
     // Uploads the queue's PPD with paper as the PageSize and PageRegion
-    // default, through this program's authenticated connection. False when
-    // the driver has no such paper or the scheduler refused.
+    // default, through this program's authenticated connection, unless
+    // paper is the default already. False when the driver has no such paper
+    // or the scheduler refused.
     bool setPaperInDriver(const QString &queue, const char *paper) const;
 
     // Makes the queue the scheduler's default printer, through the first of
@@ -90,6 +94,12 @@ private:
     bool removeUnfinished(Result &result);
     // After a failed create: removes what the failure left of the queue.
     void undoCreate(const QString &name, Result &result);
+    // Deletes the queue if it exists; false when it is still there, or
+    // the scheduler did not answer.
+    bool removeIfThere(const QString &name, bool *removed) const;
+    // A fetched driver file read, its defaults marked; null when there is
+    // none or it can't be read.
+    static PpdFilePtr openDriver(const TempFile &copy);
 
     CUPSManager &m_cups;
     // Queues this wizard began that may exist half-made: the scheduler
