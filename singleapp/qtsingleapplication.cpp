@@ -1,13 +1,20 @@
 #include "qtsingleapplication.h"
 
 #include "qtsingletonlistener.h"
+#include "sessionchannel.h"
+#include "waylandactivation.h"
 
 #include <QGuiApplication>
+#include <QLoggingCategory>
 
 #include <pwd.h>
+#include <utility>
 #include <unistd.h>
 
 namespace {
+
+// Which instance took over and what woke it: QT_LOGGING_RULES="queuewiz.instance.debug=true".
+Q_LOGGING_CATEGORY(lcInstance, "queuewiz.instance", QtWarningMsg)
 
 // Printable ASCII without the blank: what a selection name may contain.
 const QByteArray kAllowedCharacters = QByteArrayLiteral(
@@ -38,9 +45,16 @@ QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **ar
     : QApplication(argc, argv)
     , m_id(id)
     , m_x(x11Connection(this))
+    , m_session(new SessionChannel(id, this))
 {
     if (m_x.isValid())
         installNativeEventFilter(this);
+    connect(m_session, &SessionChannel::messageReceived, this,
+            [this](const QString &message, const QByteArray &token) {
+                m_activationToken = token;
+                qCDebug(lcInstance, "message from the session, token \"%s\"", token.constData());
+                emit messageReceived(message);
+            });
 }
 
 QtSingleApplication::~QtSingleApplication()
@@ -102,6 +116,14 @@ void QtSingleApplication::initialize(bool activate)
         takeSelection();
     }
 
+    if (m_session->claim()) {
+        m_session->startListening();
+        qCDebug(lcInstance, "instance on %s, listening at %s", qPrintable(platformName()),
+                m_session->socketPath().constData());
+    } else {
+        qCDebug(lcInstance, "instance on %s", qPrintable(platformName()));
+    }
+
     if (activate) {
         connect(this, &QtSingleApplication::messageReceived, this,
                 &QtSingleApplication::activateMainWidget, Qt::UniqueConnection);
@@ -116,6 +138,8 @@ bool QtSingleApplication::takeSelection()
 
 bool QtSingleApplication::isRunning() const
 {
+    if (m_session->isRunning())
+        return true;
     const xcb_atom_t selection = m_x.internAtom(selectionName(), true);
     if (selection == XCB_ATOM_NONE)
         return false;
@@ -129,7 +153,14 @@ bool QtSingleApplication::sendMessage(const QString &message)
 
 bool QtSingleApplication::sendMessage(const QString &message, int timeout)
 {
-    Q_UNUSED(timeout);
+    if (sendX11Message(message))
+        return true;
+    return m_session->deliverOrClaim(message, qgetenv("XDG_ACTIVATION_TOKEN"), timeout)
+        == SessionChannel::Outcome::Delivered;
+}
+
+bool QtSingleApplication::sendX11Message(const QString &message)
+{
     const xcb_atom_t selection = m_x.internAtom(selectionName(), true);
     if (selection == XCB_ATOM_NONE)
         return false;
@@ -154,6 +185,12 @@ void QtSingleApplication::activateMainWidget()
     // Raising a minimised window would show nothing.
     if (widget->isMinimized())
         widget->setWindowState(widget->windowState() & ~Qt::WindowMinimized);
+    // A token is good for one activation.
+    const QByteArray token = std::exchange(m_activationToken, QByteArray());
+    if (WaylandActivation::activate(widget->windowHandle(), token)) {
+        qCDebug(lcInstance, "activated with the token");
+        return;
+    }
     widget->raise();
     widget->activateWindow();
 }

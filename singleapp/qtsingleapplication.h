@@ -11,6 +11,7 @@
 #include <optional>
 
 class QtSingletonListener;
+class SessionChannel;
 
 // The application object of a program that runs once per user and X
 // display. The running instance owns an X selection named after the
@@ -18,8 +19,12 @@ class QtSingletonListener;
 // hands it a text message in a property of the owner's window, which the
 // running instance reports as messageReceived().
 //
-// Without an X display (Wayland, offscreen) every instance runs alone:
-// isRunning() and sendMessage() answer false.
+// In a Wayland session (WAYLAND_DISPLAY set) the instance also listens on
+// the session's channel in the user's runtime directory, which is all that
+// a window on Wayland has; a message that comes that way may carry the
+// activation token of the later start, and activateMainWidget() uses it.
+// With neither (offscreen) every instance runs alone: isRunning() and
+// sendMessage() answer false.
 //
 // Qt 6 applications are always graphical, so the constructor has no
 // application type.
@@ -31,7 +36,8 @@ public:
     QtSingleApplication(const QString &id, int &argc, char **argv);
     ~QtSingleApplication() override;
 
-    // Claims the selection; with activate, a message raises the main widget.
+    // Claims the selection, and the session channel where no other instance
+    // holds it; with activate, a message raises the main widget.
     void initialize(bool activate = true);
     // True when another instance of this id and user owns the selection.
     bool isRunning() const;
@@ -50,7 +56,10 @@ public:
 public slots:
     // Places message at the running instance; never waits for an answer.
     bool sendMessage(const QString &message);
-    // timeout is kept for callers' sake: nothing is awaited.
+    // Over X nothing is awaited. On the session channel timeout bounds the
+    // wait for an instance that is still starting; when no instance runs,
+    // this process takes the channel. The launcher's activation token
+    // ($XDG_ACTIVATION_TOKEN) goes with the message.
     bool sendMessage(const QString &message, int timeout);
     virtual void activateMainWidget();
 
@@ -65,6 +74,7 @@ private:
     QByteArray selectionName() const;
     xcb_window_t listenerWindow() const;
     bool takeSelection();
+    bool sendX11Message(const QString &message);
     void handOverSelection();
 
     QString m_id;
@@ -76,6 +86,8 @@ private:
     QtSingletonListener *m_listener = nullptr;
     bool m_owner = false;
     QPointer<QWidget> m_mainWidget;
+    SessionChannel *m_session = nullptr;
+    QByteArray m_activationToken;
 };
 
 #endif

@@ -58,7 +58,9 @@ bool bind(QWidget *root, T *&member, const char *name)
 AddPrinterWizard::AddPrinterWizard(QWidget *parent, const QString &name)
     : TitlelessWizard(parent, name)
     , m_creator(CUPSManager::m_CUPSManagerInstance)
+    , m_pDriverFetcher(new DriverFetcher(CUPSManager::m_CUPSManagerInstance, this))
 {
+    connect(m_pDriverFetcher, &DriverFetcher::finished, this, &AddPrinterWizard::showDrivers);
 }
 
 AddPrinterWizard::~AddPrinterWizard()
@@ -205,18 +207,33 @@ void AddPrinterWizard::hideMissingNetworkHelp()
 
 void AddPrinterWizard::fetchDrivers()
 {
-    WaitCursor wait;
     m_pDriversList->clear();
     m_drivers.clear();
-    const bool fetched = DriverFetcher::fetch(CUPSManager::m_CUPSManagerInstance, m_drivers);
+    if (m_pDriverFetcher->start())
+        showDrivers(m_pDriverFetcher->fetched());
+    else
+        showDriverFetchProblem(false);
+}
+
+void AddPrinterWizard::showDrivers(bool fetched)
+{
+    m_drivers = m_pDriverFetcher->drivers();
     for (auto it = m_drivers.cbegin(); it != m_drivers.cend(); ++it)
         m_pDriversList->addItem(it.key());
     showDriverFetchProblem(fetched);
 
+    // The list may come after the port was chosen.
     if (portTypeId() == PortType_Connected) {
         if (const LocalDeviceList::Device *device = m_localDevices.find(m_pConnectedList->currentText()))
             selectMatchingDriver(device->driverModel(), device->driverMake());
+    } else if (portTypeId() == PortType_AutoNetwork && m_portAssigned) {
+        const int index = m_pNetworkList->currentIndex();
+        if (index >= 0 && NetworkDeviceList::size_type(index) < m_NetworkDevices.count())
+            selectMatchingDriver(m_NetworkDevices.at(index).description, QString());
     }
+    OnDriverChanged();
+    if (fetched && currentIndex() == DriverPage)
+        m_pDriversList->setFocus();
 }
 
 void AddPrinterWizard::showDriverFetchProblem(bool fetched)
@@ -224,19 +241,21 @@ void AddPrinterWizard::showDriverFetchProblem(bool fetched)
     if (!m_pDriversProblemLabel || !m_pRetryDriversButton)
         return;
     const CUPSManager &cups = CUPSManager::m_CUPSManagerInstance;
-    if (!fetched && cups.answered())
+    const bool searching = m_pDriverFetcher->isSearching();
+    if (searching)
+        m_pDriversProblemLabel->setText(tr("Looking for the printing service..."));
+    else if (!fetched && cups.answered())
         m_pDriversProblemLabel->setText(
             tr("The printing service could not list the drivers: %1").arg(cups.lastStatusText()));
     else if (!fetched)
         m_pDriversProblemLabel->setText(tr("The printing service does not answer"));
     m_pDriversProblemLabel->setVisible(!fetched);
-    m_pRetryDriversButton->setVisible(!fetched);
+    m_pRetryDriversButton->setVisible(!fetched && !searching);
 }
 
 void AddPrinterWizard::retryDrivers()
 {
     fetchDrivers();
-    OnDriverChanged();
     if (m_pDriversList->count() > 0)
         m_pDriversList->setFocus();
 }

@@ -12,6 +12,7 @@
 #include <QMap>
 #include <QString>
 
+class DriverFetcher;
 class ListViewItemEx;
 class PrinterPortListView;
 class QButtonGroup;
@@ -97,8 +98,10 @@ private:
     bool commitPrinter();
     // The finish page's word on the default printer and the paper size.
     QString finishNotes(const PrinterCreator::Result &result, const char *paper) const;
-    // The driver page's explanation and Retry button, shown when the list
-    // could not be fetched.
+    // Fills the driver page once the search for the list has ended.
+    void showDrivers(bool fetched);
+    // The driver page's word while the printing service is looked for, and
+    // its explanation and Retry button when the list could not be had.
     void showDriverFetchProblem(bool fetched);
     void retryDrivers();
     void showError(const QString &text, const QString &details = QString());
@@ -140,6 +143,7 @@ private:
     // The running test page program, null when none runs.
     QProcess *m_pTestPrinterProcess = nullptr;
     QMap<QString, CUPSDriver> m_drivers;
+    DriverFetcher *m_pDriverFetcher;
     PixmapManager m_pixmaps;
     // The texts the form gives, before anything is filled in.
     QString m_groupTitleTemplate;

@@ -13,9 +13,19 @@ QProcessEnvironment InstanceProcess::environment(const QString &display)
     return env;
 }
 
-InstanceProcess::InstanceProcess(const QString &display, const QString &id, const QString &user)
+QProcessEnvironment InstanceProcess::sessionEnvironment(const QString &runtimeDir)
 {
-    m_process.setProcessEnvironment(environment(display));
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    env.insert(QStringLiteral("WAYLAND_DISPLAY"), QStringLiteral("wayland-test"));
+    env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtimeDir);
+    env.remove(QStringLiteral("DISPLAY"));
+    return env;
+}
+
+InstanceProcess::InstanceProcess(const QProcessEnvironment &env, const QString &id, const QString &user)
+{
+    m_process.setProcessEnvironment(env);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     QStringList args{ QStringLiteral("--id"), QString::fromLatin1(encode(id)) };
     if (!user.isNull())

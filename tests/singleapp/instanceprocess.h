@@ -5,12 +5,12 @@
 #include <QList>
 #include <QProcess>
 
-// The test's side of one scripted instance (instancehelper) on an X display.
+// The test's side of one scripted instance (instancehelper).
 class InstanceProcess
 {
 public:
     // A null user keeps the real login name.
-    InstanceProcess(const QString &display, const QString &id, const QString &user);
+    InstanceProcess(const QProcessEnvironment &env, const QString &id, const QString &user = QString());
     ~InstanceProcess();
 
     bool start();
@@ -25,6 +25,9 @@ public:
     static QByteArray encode(const QString &text) { return text.toUtf8().toPercentEncoding(); }
     // This process's environment, for an X11 client of display.
     static QProcessEnvironment environment(const QString &display);
+    // For a client of a Wayland session that has no compositor: only the
+    // session's names and the runtime directory count.
+    static QProcessEnvironment sessionEnvironment(const QString &runtimeDir);
 
 private:
     QProcess m_process;

@@ -27,7 +27,7 @@ class TestSingleAppX11 : public QObject
     // An instance of id for user; an owner has claimed the selection.
     Instance start(const QString &id, bool owner, const QString &user = QString())
     {
-        auto instance = std::make_unique<InstanceProcess>(m_display, id, user);
+        auto instance = std::make_unique<InstanceProcess>(InstanceProcess::environment(m_display), id, user);
         if (!instance->start() || (owner && instance->ask("init").isNull()))
             return nullptr;
         return instance;
