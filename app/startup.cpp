@@ -6,6 +6,7 @@
 #include "oemconfig.h"
 #include "qtsingleapplication.h"
 #include "queuewizuiloader.h"
+#include "sessionchannel.h"
 #include "translations.h"
 #include "uipaths.h"
 
@@ -28,6 +29,8 @@
 namespace {
 
 const char kShortOptions[] = "h";
+const QString kInstanceId = QStringLiteral("AddPrinterWizard_SingleApplication");
+const QString kWakeUp = QStringLiteral("Wake up!!!");
 const char kLongOptions[] = "ui:|res:|ui-title:|res-title:|help=h";
 
 void printUsage()
@@ -157,16 +160,22 @@ int queuewizMain(int argc, char **argv)
     const Platform platform = choosePlatform();
     if (platform == Platform::Missing && !prepareForNoDisplay(usage))
         return 1;
+    // In a Wayland session the running wizard is found before Qt starts:
+    // a start that only wakes it costs no more than that.
+    auto session = std::make_unique<SessionChannel>(kInstanceId);
+    if (platform != Platform::Missing
+        && session->deliverOrClaim(kWakeUp, qgetenv("XDG_ACTIVATION_TOKEN"), 5000) == SessionChannel::Outcome::Delivered)
+        return 0;
     // The scheduler lists the drivers while Qt starts and the forms load.
     // Nothing is logged until the answer is taken, after the logs opened.
     if (platform != Platform::Missing && !usage)
         CUPSManager::m_CUPSManagerInstance.sendDriverRequest();
-    QtSingleApplication app(QStringLiteral("AddPrinterWizard_SingleApplication"), argc, argv);
+    QtSingleApplication app(kInstanceId, argc, argv, session.release());
     // The browser and the test page must not inherit our choice.
     if (platform == Platform::Told)
         qunsetenv("QT_QPA_PLATFORM");
     // Another instance of this user on this display takes over: wake it and go.
-    if (app.sendMessage(QStringLiteral("Wake up!!!"), 5000))
+    if (app.sendMessage(kWakeUp, 5000))
         return 0;
 
     installTranslations(app);

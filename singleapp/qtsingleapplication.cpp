@@ -41,12 +41,13 @@ xcb_connection_t *x11Connection(const QGuiApplication *app)
 
 } // namespace
 
-QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **argv)
+QtSingleApplication::QtSingleApplication(const QString &id, int &argc, char **argv, SessionChannel *session)
     : QApplication(argc, argv)
     , m_id(id)
     , m_x(x11Connection(this))
-    , m_session(new SessionChannel(id, this))
+    , m_session(session ? session : new SessionChannel(id))
 {
+    m_session->setParent(this);
     if (m_x.isValid())
         installNativeEventFilter(this);
     connect(m_session, &SessionChannel::messageReceived, this,

@@ -33,7 +33,10 @@ class QtSingleApplication : public QApplication, public QAbstractNativeEventFilt
     Q_OBJECT
 
 public:
-    QtSingleApplication(const QString &id, int &argc, char **argv);
+    // session: the channel of this id, when the program asked it before Qt
+    // started (it then holds the channel, or no instance was reachable);
+    // null makes one. The application takes it over.
+    QtSingleApplication(const QString &id, int &argc, char **argv, SessionChannel *session = nullptr);
     ~QtSingleApplication() override;
 
     // Claims the selection, and the session channel where no other instance
