@@ -5,6 +5,9 @@
 #include <QBuffer>
 #include <QDomDocument>
 #include <QFile>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QLabel>
 #include <QTextStream>
 #include <QWidget>
 
@@ -65,6 +68,7 @@ QWidget *UiLoaderEx::loadAs(QIODevice *device, const QString &className, QWidget
     QWidget *w = load(&buffer, parent);
     if (!w)
         return nullptr;
+    sharpenPictures(w, doc);
 
     const QString created = QString::fromLatin1(w->metaObject()->className());
     softAssert(created == className, "w->qtx_className() == className", "uiloaderex", 68);
@@ -74,6 +78,28 @@ QWidget *UiLoaderEx::loadAs(QIODevice *device, const QString &className, QWidget
     qWarning("wrong className class <%s> is NOT inherits <%s>", qPrintable(className), qPrintable(fileClass));
     delete w;
     return nullptr;
+}
+
+void UiLoaderEx::sharpenPictures(QWidget *form, const QDomDocument &doc)
+{
+    const qreal ratio = qGuiApp->devicePixelRatio();
+    if (ratio <= 1.0)
+        return;
+    const QDomNodeList widgets = doc.elementsByTagName(QStringLiteral("widget"));
+    for (int i = 0; i < widgets.size(); ++i) {
+        const QDomElement widget = widgets.at(i).toElement();
+        auto *label = form->findChild<QLabel *>(widget.attribute(QStringLiteral("name")));
+        for (QDomElement property = widget.firstChildElement(QStringLiteral("property")); label && !property.isNull();
+             property = property.nextSiblingElement(QStringLiteral("property"))) {
+            const QString path = property.firstChildElement(QStringLiteral("pixmap")).text();
+            const QPixmap loaded = label->pixmap();
+            if (property.attribute(QStringLiteral("name")) != QLatin1String("pixmap") || path.isEmpty() || loaded.isNull())
+                continue;
+            const QPixmap sharp = QIcon(path).pixmap(loaded.deviceIndependentSize().toSize(), ratio);
+            if (!sharp.isNull())
+                label->setPixmap(sharp);
+        }
+    }
 }
 
 // A form is drawn for one toolkit class, with the children and properties

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class QDomDocument;
 class QIODevice;
 
 // Loads a form as a given program class: the top-level class of the form is
@@ -35,6 +36,12 @@ public:
     static T *setupAs(QWidget *widget);
 
 private:
+    // The form's pictures drawn again for the screen's pixel ratio: a
+    // picture property gives a pixmap of one pixel per unit, which a 200%
+    // screen would show blurred. SVG pictures are drawn at the ratio, and
+    // raster ones take their "@2x" files where the form's folder has them.
+    static void sharpenPictures(QWidget *form, const QDomDocument &doc);
+
     QString m_loadError;
 };
 

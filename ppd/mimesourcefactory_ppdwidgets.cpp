@@ -3,6 +3,7 @@
 #include "ppdpicturetable.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QtEndian>
 
 #include <memory>
@@ -78,6 +79,15 @@ QPixmap pixmapFromMimeSource(const QString &name)
     MimeSourceFactory_ppdwidgets *factory = MimeSourceFactory_ppdwidgets::instance();
     if (!factory)
         return QPixmap();
+    // A screen above 100% gets the picture drawn at twice the size.
+    if (qGuiApp && qGuiApp->devicePixelRatio() > 1.0 && name.endsWith(QLatin1String(".png"))) {
+        const QImage sharp = factory->data(QString(name).insert(name.size() - 4, QLatin1String("@2x")));
+        if (!sharp.isNull()) {
+            QPixmap pixmap = QPixmap::fromImage(sharp);
+            pixmap.setDevicePixelRatio(2.0);
+            return pixmap;
+        }
+    }
     const QImage image = factory->data(name);
     return image.isNull() ? QPixmap() : QPixmap::fromImage(image);
 }

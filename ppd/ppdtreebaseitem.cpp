@@ -60,7 +60,7 @@ void BaseItem::setConflict(bool conflict)
 
 QList<LabelRun> BaseItem::labelRuns(const QPalette &palette, bool selected) const
 {
-    const QColor colour = m_conflict ? QColor(Qt::red) : textColour(palette, selected);
+    const QColor colour = m_conflict ? markColour(palette, Qt::red) : textColour(palette, selected);
     return {LabelRun{text(0), colour}};
 }
 
@@ -94,7 +94,15 @@ void BaseItem::reload(ppd_file_t *ppd)
 
 QColor BaseItem::textColour(const QPalette &palette, bool selected)
 {
-    return selected ? QColor(Qt::white) : palette.color(QPalette::Text);
+    return palette.color(selected ? QPalette::HighlightedText : QPalette::Text);
+}
+
+QColor BaseItem::markColour(const QPalette &palette, Qt::GlobalColor onLight)
+{
+    const QColor colour(onLight);
+    if (palette.color(QPalette::Base).lightness() >= 128)
+        return colour;
+    return QColor::fromHsl(colour.hslHue(), colour.hslSaturation(), 170);
 }
 
 void BaseItem::repaint()

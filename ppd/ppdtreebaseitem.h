@@ -71,6 +71,9 @@ protected:
     virtual QString spokenText() const;
     // The colour of plain label text.
     static QColor textColour(const QPalette &palette, bool selected);
+    // A marking colour (red, dark green) as drawn on the palette's base: on
+    // a dark scheme the same hue, light enough to read.
+    static QColor markColour(const QPalette &palette, Qt::GlobalColor onLight);
 
     int m_numerical = 0;
 

@@ -145,9 +145,9 @@ QList<LabelRun> OptionItem::valueRuns(const QString &value, const QPalette &pale
     const QColor plain = textColour(palette, selected);
     QColor valueColour = plain;
     if (isConflict())
-        valueColour = Qt::red;
+        valueColour = markColour(palette, Qt::red);
     else if (!selected)
-        valueColour = Qt::darkGreen;
+        valueColour = markColour(palette, Qt::darkGreen);
     return {LabelRun{optionText() + QStringLiteral(": <"), plain}, LabelRun{value, valueColour},
             LabelRun{QStringLiteral(">"), plain}};
 }

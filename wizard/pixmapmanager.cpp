@@ -2,6 +2,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QGuiApplication>
+#include <QIcon>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -34,13 +36,18 @@ bool containsWords(const QString &text, const QString &needle)
     }
 }
 
-// Both pictures are drawn on a 96 by 96 grid and scaled.
-void beginPicture(QPainter &p, QPixmap &pixmap)
+// Both pictures are drawn on a 96 by 96 grid and scaled, in as many
+// pixels as the screen has for size units.
+QPixmap beginPicture(QPainter &p, int size)
 {
+    const qreal ratio = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
+    QPixmap pixmap(qRound(size * ratio), qRound(size * ratio));
+    pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     p.begin(&pixmap);
     p.setRenderHint(QPainter::Antialiasing);
-    p.scale(pixmap.width() / 96.0, pixmap.height() / 96.0);
+    p.scale(size / 96.0, size / 96.0);
+    return pixmap;
 }
 
 QBrush bodyBrush(qreal top, qreal bottom)
@@ -103,21 +110,19 @@ QPixmap PixmapManager::picture(const QString &model) const
     if (name == BuiltInScanner)
         return genericScanner();
     if (!name.isEmpty() && name != BuiltInPrinter) {
-        QPixmap pixmap(name);
-        if (!pixmap.isNull()) {
-            if (pixmap.width() > PictureSize || pixmap.height() > PictureSize)
-                pixmap = pixmap.scaled(PictureSize, PictureSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        // An icon draws an SVG picture for the screen's pixel ratio and takes
+        // a "@2x" file beside a raster one; neither grows past PictureSize.
+        const QPixmap pixmap = QIcon(name).pixmap(QSize(PictureSize, PictureSize), qGuiApp->devicePixelRatio());
+        if (!pixmap.isNull())
             return pixmap;
-        }
     }
     return genericPrinter();
 }
 
 QPixmap PixmapManager::genericPrinter(int size)
 {
-    QPixmap pixmap(size, size);
     QPainter p;
-    beginPicture(p, pixmap);
+    QPixmap pixmap = beginPicture(p, size);
     const QPen outline(QColor(0x4d, 0x59, 0x66), 1.5);
     const QPen paperEdge(QColor(0x6b, 0x77, 0x85), 1.5);
     p.setPen(paperEdge);
@@ -144,9 +149,8 @@ QPixmap PixmapManager::genericPrinter(int size)
 
 QPixmap PixmapManager::genericScanner(int size)
 {
-    QPixmap pixmap(size, size);
     QPainter p;
-    beginPicture(p, pixmap);
+    QPixmap pixmap = beginPicture(p, size);
     const QPen outline(QColor(0x4d, 0x59, 0x66), 1.5);
     QPainterPath lid;
     lid.moveTo(10, 40);

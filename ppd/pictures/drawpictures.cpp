@@ -1,5 +1,6 @@
 // Paints the option pictures of the driver options dialog and writes them as
-// PNG files into the directory given on the command line. The PNGs are kept
+// PNG files into the directory given on the command line, each once more at
+// twice the size ("NAME@2x.png") for screens at 200%. The PNGs are kept
 // in the tree; rerun this (target qw_redraw_pictures) after changing a
 // drawing. Only shapes are drawn, no text, so the result does not depend on
 // the fonts of the machine.
@@ -292,8 +293,9 @@ const Picture kPictures[] = {
     {"printer.png", 16, 16, [](QPainter &p) { drawPrinter(p); }},
     {"resol.png", 16, 14,
      [](QPainter &p) {
+         // Blue, not black: the dots must show on a dark scheme too.
          p.setPen(Qt::NoPen);
-         p.setBrush(QColor(30, 30, 30));
+         p.setBrush(kBlue);
          for (int y = 0; y < 6; ++y)
              for (int x = 0; x < 7; ++x)
                  p.drawRect(QRectF(1 + 2 * x, 1 + 2 * y, 1, 1));
@@ -324,16 +326,21 @@ int main(int argc, char **argv)
         return 1;
     }
     for (const Picture &picture : kPictures) {
-        QImage image = canvas(picture.width, picture.height);
-        {
-            QPainter painter(&image);
-            setup(painter);
-            picture.draw(painter);
-        }
-        const QString path = dir.filePath(QLatin1String(picture.name));
-        if (!image.save(path, "PNG")) {
-            std::fprintf(stderr, "cannot write %s\n", qPrintable(path));
-            return 1;
+        for (int scale : {1, 2}) {
+            QImage image = canvas(picture.width * scale, picture.height * scale);
+            {
+                QPainter painter(&image);
+                setup(painter);
+                painter.scale(scale, scale);
+                picture.draw(painter);
+            }
+            QString name = QLatin1String(picture.name);
+            if (scale == 2)
+                name.insert(name.size() - 4, QLatin1String("@2x"));
+            if (!image.save(dir.filePath(name), "PNG")) {
+                std::fprintf(stderr, "cannot write %s\n", qPrintable(dir.filePath(name)));
+                return 1;
+            }
         }
     }
     return 0;

@@ -1,6 +1,8 @@
 // queuewiz-tour: runs the installed wizard through every page on the
 // scheduler named by CUPS_SERVER and saves a picture of each step.
-//   queuewiz-tour --pictures DIR --port HOST:PORT [--driver TEXT] [--name NAME]
+//   queuewiz-tour --pictures DIR --port HOST:PORT [--driver TEXT] [--name NAME] [--dark]
+// --dark shows the pages in a dark colour scheme, as a dark desktop theme
+// hands it to Qt programs.
 // Exit status 0 when every step worked.
 
 #include "AddPrinterWizard.h"
@@ -13,9 +15,35 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QPalette>
+#include <QStyleFactory>
 
 #include <cstdio>
 #include <memory>
+
+namespace {
+
+void useDarkScheme(QApplication &app)
+{
+    app.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QPalette dark;
+    const QColor text(0xfc, 0xfc, 0xfc), muted(0x6e, 0x71, 0x75);
+    dark.setColor(QPalette::Window, QColor(0x2a, 0x2e, 0x32));
+    dark.setColor(QPalette::Base, QColor(0x1b, 0x1e, 0x20));
+    dark.setColor(QPalette::AlternateBase, QColor(0x23, 0x26, 0x29));
+    dark.setColor(QPalette::Button, QColor(0x31, 0x36, 0x3b));
+    dark.setColor(QPalette::Highlight, QColor(0x3d, 0xae, 0xe9));
+    dark.setColor(QPalette::Link, QColor(0x1d, 0x99, 0xf3));
+    dark.setColor(QPalette::ToolTipBase, QColor(0x31, 0x36, 0x3b));
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                                     QPalette::HighlightedText, QPalette::ToolTipText, QPalette::BrightText})
+        dark.setColor(role, text);
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        dark.setColor(QPalette::Disabled, role, muted);
+    app.setPalette(dark);
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -24,13 +52,15 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     installTranslations(app);
 
-    CommandLineOptions options(argc, argv, "", "pictures:|port:|driver:|name:");
+    CommandLineOptions options(argc, argv, "", "pictures:|port:|driver:|name:|dark");
     const QString dir = options.value(QStringLiteral("pictures"));
     const QString port = options.value(QStringLiteral("port"));
     if (options.contains(QStringLiteral("-")) || dir.isEmpty() || port.isEmpty()) {
-        fprintf(stderr, "usage: queuewiz-tour --pictures DIR --port HOST:PORT [--driver TEXT] [--name NAME]\n");
+        fprintf(stderr, "usage: queuewiz-tour --pictures DIR --port HOST:PORT [--driver TEXT] [--name NAME] [--dark]\n");
         return 2;
     }
+    if (options.contains(QStringLiteral("dark")))
+        useDarkScheme(app);
     if (!QDir().mkpath(dir)) {
         fprintf(stderr, "queuewiz-tour: can't make %s\n", qPrintable(dir));
         return 1;
