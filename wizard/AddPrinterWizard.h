@@ -5,31 +5,26 @@
 #include "cupsprinter.h"
 #include "localdevicelist.h"
 #include "networkdevicelist.h"
-#include "pixmapmanager.h"
+#include "printerchoice.h"
 #include "printercreator.h"
 #include "titlelesswizard.h"
 
 #include <QMap>
 #include <QString>
 
-class DriverFetcher;
+class DriverStep;
+class FinishStep;
 class ListViewItemEx;
-class PrinterPortListView;
-class QButtonGroup;
-class QComboBox;
-class QGroupBox;
-class QLabel;
-class QLineEdit;
-class QListWidget;
-class QProcess;
-class QPushButton;
-class QRadioButton;
-class URLPushButton;
+class NameStep;
+class PortStep;
 
 // The add-printer wizard. Its pages come from the form
-// "ui/AddPrinterWizardBase.ui"; setupUi() binds the form's widgets by name:
-// 0 welcome, 1 port type, 2 ports (only for a port chosen by hand),
-// 3 drivers, 4 name, 5 finish.
+// "ui/AddPrinterWizardBase.ui": 0 welcome, 1 port type, 2 ports (only for a
+// port chosen by hand), 3 drivers, 4 name, 5 finish. Each page's behaviour
+// is a step of its own (PortStep for pages 1 and 2, DriverStep, NameStep,
+// FinishStep); the wizard leads the flow: which page comes, Next and Back,
+// the commit that creates the queue when the name page is left, Cancel and
+// Help. Its slots are the wizard's interface to the form.
 class AddPrinterWizard : public TitlelessWizard
 {
     Q_OBJECT
@@ -45,22 +40,21 @@ public:
     // false ("Invalid UI description") when a widget is missing.
     bool setupUi();
 
-    bool isPortAssigned() const { return m_portAssigned; }
+    bool isPortAssigned() const;
     bool isDriverAssigned() const;
     bool isPrinterNameAssigned() const;
     // The checked port type, -1 before setupUi().
     int portTypeId() const;
 
-    const LocalDeviceList &localDevices() const { return m_localDevices; }
-    const NetworkDeviceList &networkDevices() const { return m_NetworkDevices; }
+    const LocalDeviceList &localDevices() const;
+    const NetworkDeviceList &networkDevices() const;
     // The queue made when the name page was left; empty before.
     const CUPSPrinter &newPrinter() const { return m_newPrinter; }
     // The drivers on the driver page, by their display name.
-    const QMap<QString, CUPSDriver> &drivers() const { return m_drivers; }
+    const QMap<QString, CUPSDriver> &drivers() const;
+    // What the pages hold now.
+    PrinterChoice choice() const;
 
-    // The name proposed for a driver's display name: its first word holding
-    // a digit, else its first word; only letters, digits and "_", in lower
-    // case ("Laser 1610 Series" gives "1610", "Acme Deskjet" gives "acme").
     static QString proposedName(const QString &driverText);
 
 public slots:
@@ -83,76 +77,25 @@ protected:
     bool pageLeaving(int index) override;
 
 private:
-    bool bindChildren();
     void hideMissingNetworkHelp();
-    void fetchDrivers();
-    void resetPortPage();
-    bool findLocalDevices();
-    void applyLocalDevice(const QString &label);
-    void selectMatchingDriver(const QString &model, const QString &make);
-    void applyNetworkDevice(int index);
-    // Selects the entry of PortsView that stands for uri.
-    bool selectPort(const QString &uri);
-    void proposeName();
     // Creates the queue; false (after a message) keeps the name page.
     bool commitPrinter();
     // The finish page's word on the default printer and the paper size.
     QString finishNotes(const PrinterCreator::Result &result, const char *paper) const;
-    // Fills the driver page once the search for the list has ended.
-    void showDrivers(bool fetched);
-    // The driver page's word while the printing service is looked for, and
-    // its explanation and Retry button when the list could not be had.
-    void showDriverFetchProblem(bool fetched);
-    void retryDrivers();
     void showError(const QString &text, const QString &details = QString());
     void connectSlots();
     // A page ("name.htm#anchor") of the package's help folder as a file URL,
     // in the user's language when it has been translated.
     static QString helpUrl(const QString &page);
 
-    QGroupBox *m_pConnectedPrintersGroup = nullptr;
-    QRadioButton *m_pConnectedButton = nullptr;
-    QRadioButton *m_pNetworkButton = nullptr;
-    QRadioButton *m_pOfflineButton = nullptr;
-    QComboBox *m_pConnectedList = nullptr;
-    QComboBox *m_pNetworkList = nullptr;
-    QLabel *m_pSelectOnlineLabel = nullptr;
-    QLabel *m_pSelectNetworkLabel = nullptr;
-    QLabel *m_pConnectedImage = nullptr;
-    QPushButton *m_pSearchNetworkButton = nullptr;
-    URLPushButton *m_pConfigureNetworkButton = nullptr;
-    PrinterPortListView *m_pPortsView = nullptr;
-    QListWidget *m_pDriversList = nullptr;
-    QLineEdit *m_pNameEdit = nullptr;
-    QLineEdit *m_pLocationEdit = nullptr;
-    QLineEdit *m_pDescriptionEdit = nullptr;
-    QLabel *m_pFinishText = nullptr;
-    QPushButton *m_pTestButton = nullptr;
-    QPushButton *m_pOptionsButton = nullptr;
-    // Optional: a form without them shows an empty list and no reason.
-    QLabel *m_pDriversProblemLabel = nullptr;
-    QPushButton *m_pRetryDriversButton = nullptr;
-
-    QButtonGroup *m_pPortTypes = nullptr;
-    LocalDeviceList m_localDevices;
-    NetworkDeviceList m_NetworkDevices;
+    PortStep *m_ports;
+    DriverStep *m_drivers;
+    NameStep *m_names;
+    FinishStep *m_finish;
     CUPSPrinter m_newPrinter;
     // Lives as long as the wizard: it remembers queues a failed commit may
     // have left half-made.
     PrinterCreator m_creator;
-    // The running test page program, null when none runs.
-    QProcess *m_pTestPrinterProcess = nullptr;
-    QMap<QString, CUPSDriver> m_drivers;
-    DriverFetcher *m_pDriverFetcher;
-    PixmapManager m_pixmaps;
-    // The texts the form gives, before anything is filled in.
-    QString m_groupTitleTemplate;
-    QString m_finishTemplate;  // %1 name, %2 model, %3 device URI
-    // PortsView's selected entry is the port the queue will use.
-    bool m_portAssigned = false;
-    // Cleared while setPortType() runs, set once setupUi() has applied the
-    // first port type.
-    bool m_setupFinished = false;
 };
 
 #endif

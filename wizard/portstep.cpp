@@ -1,0 +1,246 @@
+#include "portstep.h"
+
+#include "cupsmanager.h"
+#include "oemconfig.h"
+#include "printerportlistview.h"
+#include "softassert.h"
+#include "titlelesswizard.h"
+#include "urlpushbutton.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+// Looks a child up by name and class among all descendants.
+template <class T>
+bool bindChild(QWidget *root, T *&member, const char *name)
+{
+    member = root->findChild<T *>(QLatin1String(name));
+    return member != nullptr;
+}
+
+} // namespace
+
+PortStep::PortStep(TitlelessWizard *wizard, int portTypePage, int portsPage)
+    : QObject(wizard)
+    , m_wizard(wizard)
+    , m_portTypePage(portTypePage)
+    , m_portsPage(portsPage)
+{
+}
+
+bool PortStep::bind(QWidget *form)
+{
+    return bindChild(form, m_pConnectedPrintersGroup, "ConnectedPrintersGroup")
+        && bindChild(form, m_pConnectedButton, "ConnectedButton") && bindChild(form, m_pNetworkButton, "NetworkButton")
+        && bindChild(form, m_pOfflineButton, "OfflineButton") && bindChild(form, m_pConnectedList, "ConnectedList")
+        && bindChild(form, m_pNetworkList, "NetworkList") && bindChild(form, m_pSelectOnlineLabel, "SelectOnlineLabel")
+        && bindChild(form, m_pSelectNetworkLabel, "SelectNetworkLabel")
+        && bindChild(form, m_pConnectedImage, "ConnectedImage")
+        && bindChild(form, m_pSearchNetworkButton, "SearchNetworkButton")
+        && bindChild(form, m_pConfigureNetworkButton, "ConfigureNetworkButton")
+        && bindChild(form, m_pPortsView, "PortsView");
+}
+
+void PortStep::setUp(const QString &shareDir)
+{
+    m_portAssigned = false;
+    resetPortPage();
+
+    m_pPortTypes = new QButtonGroup(this);
+    m_pPortTypes->addButton(m_pConnectedButton, Connected);
+    m_pPortTypes->addButton(m_pNetworkButton, AutoNetwork);
+    m_pPortTypes->addButton(m_pOfflineButton, Manual);
+
+    m_pixmaps.load(shareDir);
+    findLocalDevices();
+    setPortType(Connected);
+    m_pPortsView->setMfpMode(false);
+}
+
+int PortStep::portTypeId() const
+{
+    return m_pPortTypes ? m_pPortTypes->checkedId() : -1;
+}
+
+QString PortStep::deviceUri() const
+{
+    return m_pPortsView->selectedURI();
+}
+
+// ---- port type page ---------------------------------------------------
+
+void PortStep::setPortType(int id)
+{
+    if (m_pPortTypes->checkedId() != id) {
+        if (QAbstractButton *button = m_pPortTypes->button(id))
+            button->setChecked(true);
+    }
+
+    m_pConnectedList->setEnabled(id == Connected);
+    m_pSelectOnlineLabel->setEnabled(id == Connected);
+    m_pSelectNetworkLabel->setEnabled(id == AutoNetwork);
+    m_pNetworkList->setEnabled(id == AutoNetwork);
+    // A search only makes sense for the network type.
+    m_pSearchNetworkButton->setEnabled(id == AutoNetwork);
+
+    bool ok = false;
+    switch (id) {
+    case Manual:
+        m_portAssigned = false;
+        resetPortPage();
+        emit deviceChosen(QString(), QString());
+        m_wizard->setAppropriate(m_portsPage, true);
+        m_wizard->setNextEnabled(m_portTypePage, true);
+        return;
+    case Connected:
+        ok = !m_pConnectedList->currentText().isEmpty();
+        m_pConnectedButton->setEnabled(ok);
+        m_pConnectedList->setEnabled(ok);
+        m_pSelectOnlineLabel->setEnabled(ok);
+        if (ok)
+            applyLocalDevice(m_pConnectedList->currentText());
+        break;
+    case AutoNetwork:
+        ok = !m_pNetworkList->currentText().isEmpty();
+        m_pSelectNetworkLabel->setEnabled(ok);
+        m_pNetworkList->setEnabled(ok);
+        if (ok)
+            applyNetworkDevice(m_pNetworkList->currentIndex());
+        // A printer that offers no known protocol gives no port.
+        ok = ok && m_portAssigned;
+        break;
+    default:
+        qWarning("Unknown port type identifier %d", id);
+        return;
+    }
+    m_wizard->setAppropriate(m_portsPage, false);
+    m_wizard->setNextEnabled(m_portTypePage, ok);
+}
+
+bool PortStep::findLocalDevices()
+{
+    const bool found = m_localDevices.refresh();
+    m_pConnectedList->clear();
+    m_pConnectedList->addItems(m_localDevices.labels());
+    return found;
+}
+
+void PortStep::localPrinterChanged(const QString &text)
+{
+    if (portTypeId() != Connected)
+        return;
+    applyLocalDevice(text);
+    m_wizard->setNextEnabled(m_portTypePage, !text.isEmpty());
+}
+
+void PortStep::searchNetwork()
+{
+    if (!QW_CHECK(portTypeId() == AutoNetwork, "AddPrinterWizard", 1032)) {
+        qWarning("Selected port type is unexpected");
+        return;
+    }
+    QAbstractButton *button = m_pPortTypes->button(AutoNetwork);
+    if (!button) {
+        qWarning("Can't find port type button");
+        return;
+    }
+    m_pNetworkList->clear();
+    m_portAssigned = false;
+    m_pPortsView->clearSelection();
+
+    m_networkDevices.discover(actx.rootDir, actx.shareDir, CUPSManager::m_CUPSManagerInstance.CupsVersion);
+    for (NetworkDeviceList::size_type i = 0; i < m_networkDevices.count(); ++i)
+        m_pNetworkList->addItem(m_networkDevices.at(i).entryText());
+
+    // Next and the port follow the new list.
+    setPortType(m_pPortTypes->id(button));
+}
+
+void PortStep::networkPrinterChanged(int index)
+{
+    if (portTypeId() != AutoNetwork)
+        return;
+    applyNetworkDevice(index);
+    m_wizard->setNextEnabled(m_portTypePage, m_portAssigned);
+}
+
+void PortStep::applyNetworkDevice(int index)
+{
+    m_portAssigned = false;
+    if (!softAssert(NetworkDeviceList::size_type(m_pNetworkList->count()) == m_networkDevices.count(),
+                    "NetworkDeviceList::size_type(NetworkList->count()) == m_NetworkDevices.count()",
+                    "AddPrinterWizard", 1117)
+        || !softAssert(0 <= index && NetworkDeviceList::size_type(index) < m_networkDevices.count(),
+                       "0 <= i && NetworkDeviceList::size_type(i) < m_NetworkDevices.count()", "AddPrinterWizard",
+                       1118))
+        return;
+
+    const NetworkDeviceList::Device &device = m_networkDevices.at(index);
+    const QString uri = device.deviceUri();
+    m_pConnectedImage->setPixmap(m_pixmaps.picture(device.description));
+    m_pPortsView->clearSelection();
+    if (uri.isEmpty())
+        return;
+    m_portAssigned = selectPort(uri);
+    if (m_portAssigned)
+        emit deviceChosen(device.description, QString());
+}
+
+// ---- port page ----------------------------------------------------------
+
+void PortStep::resetPortPage()
+{
+    m_pPortsView->clearSelection();
+    m_wizard->setNextEnabled(m_portsPage, false);
+    m_pConnectedImage->setPixmap(PixmapManager::genericPrinter());
+}
+
+void PortStep::applyLocalDevice(const QString &label)
+{
+    m_pPortsView->clearSelection();
+    m_portAssigned = selectPort(QStringLiteral("mfp:") + LocalDeviceList::devicePathOf(label));
+
+    const LocalDeviceList::Device *device = m_localDevices.find(label);
+    m_pConnectedImage->setPixmap(device ? m_pixmaps.picture(device->model) : PixmapManager::genericPrinter());
+    if (device)
+        emit deviceChosen(device->driverModel(), device->driverMake());
+}
+
+bool PortStep::selectPort(const QString &uri)
+{
+    // A network entry holds the last URI put into it; it has to begin with
+    // its bare scheme again to be found for another address.
+    const qsizetype schemeEnd = uri.indexOf(QLatin1String("://"));
+    if (schemeEnd > 0) {
+        const QString prefix = uri.left(schemeEnd + 3);
+        const QList<QTreeWidgetItem *> entries =
+            m_pPortsView->findItems(prefix, Qt::MatchStartsWith | Qt::MatchRecursive);
+        for (QTreeWidgetItem *entry : entries) {
+            if (entry->parent())
+                entry->setText(0, prefix);
+        }
+    }
+    m_pPortsView->selectURI(uri);
+    return m_pPortsView->selectedURI() == uri;
+}
+
+void PortStep::portChanged()
+{
+    const QTreeWidgetItem *item = m_pPortsView->selectedItem();
+    const bool ok = item && item->parent() && m_pPortsView->isSelectionEditable();
+    m_portAssigned = ok;
+    m_wizard->setNextEnabled(m_portsPage, ok);
+}
+
+void PortStep::portRenaming(ListViewItemEx *item, int column, const QString &text)
+{
+    const bool ok = item && item->isAcceptable(column, text);
+    m_portAssigned = ok;
+    m_wizard->setNextEnabled(m_portsPage, ok);
+}
