@@ -435,7 +435,7 @@ void AddPrinterWizard::OnPortRenaming(ListViewItemEx *item, int column, const QS
 
 void AddPrinterWizard::selectMatchingDriver(const QString &model, const QString &make)
 {
-    const QString key = DriverMatcher::bestMatch(m_drivers, model, make, QLocale::system().name());
+    const QString key = DriverMatcher::bestMatch(m_drivers, model, make, QLocale().name());
     if (key.isEmpty())
         return;
     const QList<QListWidgetItem *> items = m_pDriversList->findItems(key, Qt::MatchExactly);
