@@ -15,7 +15,7 @@
     </message>
     <message>
         <source>The printing service could not list the drivers: %1</source>
-        <translation>De afdrukservice kon de stuurprogramma&apos;s niet weergeven: %1</translation>
+        <translation>De afdrukservice kon de lijst met stuurprogramma&apos;s niet ophalen: %1</translation>
     </message>
     <message>
         <source>The printing service does not answer</source>

@@ -430,7 +430,7 @@ Proszę użyć tego adresu:
     <name>PasswordDialog</name>
     <message>
         <source>Authorization</source>
-        <translation>Upoważnienie</translation>
+        <translation>Uwierzytelnianie</translation>
     </message>
     <message>
         <source>User name:</source>

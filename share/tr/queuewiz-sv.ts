@@ -428,7 +428,7 @@ Använd den här adressen:
     <name>PasswordDialog</name>
     <message>
         <source>Authorization</source>
-        <translation>Behörighet</translation>
+        <translation>Autentisering</translation>
     </message>
     <message>
         <source>User name:</source>
