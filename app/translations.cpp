@@ -1,34 +1,35 @@
 #include "translations.h"
 
+#include "desktoplanguage.h"
 #include "oemconfig.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
-
-#include <memory>
 
 namespace {
 
-void install(QCoreApplication &app, const QString &name, const QString &dir)
-{
-    auto translator = std::make_unique<QTranslator>(&app);
-    if (translator->load(name, dir))
-        app.installTranslator(translator.release());
-}
+// Qt's texts that the wizard shows, for the languages Qt has no catalogue
+// of: the program's catalogue carries them (Qt's own wins where it exists).
+[[maybe_unused]] const char *const qtStockTexts[] = {
+    QT_TRANSLATE_NOOP("QWizard", "< &Back"),
+    QT_TRANSLATE_NOOP("QWizard", "&Next >"),
+    QT_TRANSLATE_NOOP("QWizard", "&Finish"),
+    QT_TRANSLATE_NOOP("QWizard", "Cancel"),
+    QT_TRANSLATE_NOOP("QWizard", "&Help"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "OK"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel"),
+};
 
 } // namespace
 
-void installTranslations(QCoreApplication &app, const QString &localeName)
+QString installTranslations(QCoreApplication &app, const QString &localeName)
 {
-    static const char *const names[] = { "queuewiz" };
-    if (!localeName.isEmpty())
-        QLocale::setDefault(QLocale(localeName));
-    const QString locale = localeName.isEmpty() ? QLocale::system().name() : localeName;
     const QString dir = QDir(QString::fromLocal8Bit(actx.shareDir)).filePath(QStringLiteral("tr"));
-    for (const char *name : names)
-        install(app, QString::fromLatin1(name) + QLatin1Char('-') + locale, dir);
-    install(app, QStringLiteral("qtbase_") + locale, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    const DesktopLanguage::Choice choice = DesktopLanguage::install(
+        app, dir, QStringLiteral("queuewiz"), localeName.isEmpty() ? QStringList() : QStringList{localeName});
+    // Installed last, so looked at first: Qt's wording of its own texts.
+    DesktopLanguage::installCatalogue(app, QLibraryInfo::path(QLibraryInfo::TranslationsPath),
+                                      QStringLiteral("qtbase"), choice.locale);
+    return choice.locale;
 }

@@ -5,11 +5,13 @@
 
 class QCoreApplication;
 
-// Installs the program's translation for the user's locale from the share
-// directory's "tr" folder, and Qt's own for its stock texts (the wizard's
-// Back, Next and Cancel buttons). A missing file leaves English in place.
-// A locale name ("de", "fr_CA") given instead of the user's also becomes the
-// default locale, so that help pages follow the same language.
-void installTranslations(QCoreApplication &app, const QString &locale = QString());
+// Installs the program's translation from the share directory's "tr" folder
+// in the first of the desktop's languages that has one (LANGUAGE, then
+// LC_ALL, LC_MESSAGES, LANG), else English, and Qt's own for its stock texts
+// (the wizard's Back, Next and Cancel buttons) in the same language. A
+// locale name ("de", "fr_CA") given instead stands for the desktop's. The
+// language becomes the default locale, so that help pages and the driver
+// chosen for a device follow it. Returns the locale name chosen.
+QString installTranslations(QCoreApplication &app, const QString &locale = QString());
 
 #endif

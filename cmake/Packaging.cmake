@@ -32,7 +32,7 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${CMAKE_BINARY_DIR}/mfp)
 # What is run or loaded rather than linked: the scheduler and lpadmin, the
 # SVG image plug-in the forms need.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "cups-daemon, cups-client, libqt6svg6")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "avahi-utils, cups-filters")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "avahi-utils, cups-filters, qt6-translations-l10n")
 include(CPack)
 
 # Debian's documentation of the package: the licence and the history, the

@@ -100,8 +100,10 @@ QString PPDTreeView::conflictMessage() const
         collectConflicts(&m_ppd->groups[i], lines);
     if (lines.isEmpty())
         return QString();
-    lines.prepend(tr("You selected options that are in conflict. Try to resolve the\n"
-                     "problem before continuing:\n"));
+    const int count = static_cast<int>(lines.size());
+    lines.prepend(tr("You selected %n options that are in conflict. Resolve the conflict before you "
+                     "continue:\n",
+                     nullptr, count));
     return lines.join(QStringLiteral("\n  "));
 }
 

@@ -5,6 +5,7 @@
 #include "drivermatcher.h"
 #include "titlelesswizard.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QLocale>
@@ -65,13 +66,15 @@ void DriverStep::showFetchProblem(bool fetched)
         return;
     const CUPSManager &cups = CUPSManager::m_CUPSManagerInstance;
     const bool searching = m_pFetcher->isSearching();
+    // The wizard's words, in the wizard's catalogue context.
     if (searching)
-        m_pDriversProblemLabel->setText(tr("Looking for the printing service..."));
+        m_pDriversProblemLabel->setText(QCoreApplication::translate("AddPrinterWizard", "Looking for the printing service..."));
     else if (!fetched && cups.answered())
         m_pDriversProblemLabel->setText(
-            tr("The printing service could not list the drivers: %1").arg(cups.lastStatusText()));
+            QCoreApplication::translate("AddPrinterWizard", "The printing service could not list the drivers: %1")
+                .arg(cups.lastStatusText()));
     else if (!fetched)
-        m_pDriversProblemLabel->setText(tr("The printing service does not answer"));
+        m_pDriversProblemLabel->setText(QCoreApplication::translate("AddPrinterWizard", "The printing service does not answer"));
     m_pDriversProblemLabel->setVisible(!fetched);
     m_pRetryDriversButton->setVisible(!fetched && !searching);
 }
@@ -104,7 +107,7 @@ void DriverStep::applyMatch()
 {
     if (m_wantedModel.isEmpty())
         return;
-    const QString key = DriverMatcher::bestMatch(m_drivers, m_wantedModel, m_wantedMake, QLocale::system().name());
+    const QString key = DriverMatcher::bestMatch(m_drivers, m_wantedModel, m_wantedMake, QLocale().name());
     if (key.isEmpty())
         return;
     const QList<QListWidgetItem *> items = m_pDriversList->findItems(key, Qt::MatchExactly);

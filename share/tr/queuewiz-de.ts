@@ -307,21 +307,6 @@ Verwenden Sie diese Adresse:
     </message>
 </context>
 <context>
-    <name>PasswordDialog</name>
-    <message>
-        <source>Authorization</source>
-        <translation>Authentifizierung</translation>
-    </message>
-    <message>
-        <source>User name:</source>
-        <translation>Benutzername:</translation>
-    </message>
-    <message>
-        <source>Password:</source>
-        <translation>Passwort:</translation>
-    </message>
-</context>
-<context>
     <name>PPDBooleanViewBase</name>
     <message>
         <source>PPD Boolean Option</source>
@@ -425,16 +410,33 @@ Verwenden Sie diese Adresse:
 <context>
     <name>PPDTreeView</name>
     <message>
-        <source>You selected options that are in conflict. Try to resolve the
-problem before continuing:
-</source>
-        <translation>Sie haben Optionen gewählt, die sich widersprechen. Bitte lösen Sie
-den Konflikt, bevor Sie fortfahren:
-</translation>
-    </message>
-    <message>
         <source>Driver configuration</source>
         <translation>Treiberkonfiguration</translation>
+    </message>
+    <message numerus="yes">
+        <source>You selected %n options that are in conflict. Resolve the conflict before you continue:
+</source>
+        <translation>
+            <numerusform>Sie haben %n Option gewählt, die im Konflikt steht. Bitte lösen Sie den Konflikt, bevor Sie fortfahren:
+</numerusform>
+            <numerusform>Sie haben %n Optionen gewählt, die sich widersprechen. Bitte lösen Sie den Konflikt, bevor Sie fortfahren:
+</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Authorization</source>
+        <translation>Authentifizierung</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Benutzername:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
     </message>
 </context>
 <context>
@@ -474,6 +476,40 @@ den Konflikt, bevor Sie fortfahren:
     <message>
         <source>File</source>
         <translation>Datei</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>QWizard</name>
+    <message>
+        <source>&lt; &amp;Back</source>
+        <translation>&lt; &amp;Zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;</source>
+        <translation>&amp;Weiter &gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>Ab&amp;schließen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
     </message>
 </context>
 <context>

@@ -307,21 +307,6 @@ Use esta dirección:
     </message>
 </context>
 <context>
-    <name>PasswordDialog</name>
-    <message>
-        <source>Authorization</source>
-        <translation>Autenticación</translation>
-    </message>
-    <message>
-        <source>User name:</source>
-        <translation>Nombre de usuario:</translation>
-    </message>
-    <message>
-        <source>Password:</source>
-        <translation>Contraseña:</translation>
-    </message>
-</context>
-<context>
     <name>PPDBooleanViewBase</name>
     <message>
         <source>PPD Boolean Option</source>
@@ -425,16 +410,33 @@ Use esta dirección:
 <context>
     <name>PPDTreeView</name>
     <message>
-        <source>You selected options that are in conflict. Try to resolve the
-problem before continuing:
-</source>
-        <translation>Ha elegido opciones incompatibles entre sí. Intente resolver el
-problema antes de continuar:
-</translation>
-    </message>
-    <message>
         <source>Driver configuration</source>
         <translation>Configuración del controlador</translation>
+    </message>
+    <message numerus="yes">
+        <source>You selected %n options that are in conflict. Resolve the conflict before you continue:
+</source>
+        <translation>
+            <numerusform>Ha elegido %n opción que está en conflicto. Resuelva el conflicto antes de continuar:
+</numerusform>
+            <numerusform>Ha elegido %n opciones que están en conflicto entre sí. Resuelva el conflicto antes de continuar:
+</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Authorization</source>
+        <translation>Autenticación</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nombre de usuario:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Contraseña:</translation>
     </message>
 </context>
 <context>
@@ -474,6 +476,40 @@ problema antes de continuar:
     <message>
         <source>File</source>
         <translation>Archivo</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>QWizard</name>
+    <message>
+        <source>&lt; &amp;Back</source>
+        <translation>&lt; &amp;Atrás</translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;</source>
+        <translation>Siguie&amp;nte &gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Finalizar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Ayuda</translation>
     </message>
 </context>
 <context>

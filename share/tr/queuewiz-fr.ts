@@ -307,21 +307,6 @@ Utilisez cette adresse&#xa0;:
     </message>
 </context>
 <context>
-    <name>PasswordDialog</name>
-    <message>
-        <source>Authorization</source>
-        <translation>Authentification</translation>
-    </message>
-    <message>
-        <source>User name:</source>
-        <translation>Nom d&apos;utilisateur&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Password:</source>
-        <translation>Mot de passe&#xa0;:</translation>
-    </message>
-</context>
-<context>
     <name>PPDBooleanViewBase</name>
     <message>
         <source>PPD Boolean Option</source>
@@ -425,16 +410,33 @@ Utilisez cette adresse&#xa0;:
 <context>
     <name>PPDTreeView</name>
     <message>
-        <source>You selected options that are in conflict. Try to resolve the
-problem before continuing:
-</source>
-        <translation>Vous avez choisi des options incompatibles. Essayez de résoudre
-le problème avant de continuer&#xa0;:
-</translation>
-    </message>
-    <message>
         <source>Driver configuration</source>
         <translation>Configuration du pilote</translation>
+    </message>
+    <message numerus="yes">
+        <source>You selected %n options that are in conflict. Resolve the conflict before you continue:
+</source>
+        <translation>
+            <numerusform>Vous avez choisi %n option en conflit. Résolvez le conflit avant de continuer&#xa0;:
+</numerusform>
+            <numerusform>Vous avez choisi %n options en conflit entre elles. Résolvez le conflit avant de continuer&#xa0;:
+</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PasswordDialog</name>
+    <message>
+        <source>Authorization</source>
+        <translation>Authentification</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nom d&apos;utilisateur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -474,6 +476,40 @@ le problème avant de continuer&#xa0;:
     <message>
         <source>File</source>
         <translation>Fichier</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>QWizard</name>
+    <message>
+        <source>&lt; &amp;Back</source>
+        <translation>&lt; &amp;Précédent</translation>
+    </message>
+    <message>
+        <source>&amp;Next &gt;</source>
+        <translation>&amp;Suivant &gt;</translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation>&amp;Terminer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
     </message>
 </context>
 <context>

@@ -190,8 +190,8 @@ private slots:
         QVERIFY(d.pick("MediaType", QStringLiteral("Transparency")));
         QCOMPARE(m_boxes.size(), 1);
         const QString box = m_boxes.constFirst();
-        QVERIFY2(box.startsWith(QLatin1String("Driver configuration|OK|You selected options that are in conflict. "
-                                              "Try to resolve the\nproblem before continuing:\n\n")),
+        QVERIFY2(box.startsWith(QLatin1String("Driver configuration|OK|You selected 2 options that are in conflict. "
+                                              "Resolve the conflict before you continue:\n\n")),
                  qPrintable(box));
         QVERIFY2(box.contains(QLatin1String("\n  Media Type = Transparency")), qPrintable(box));
         QVERIFY2(box.contains(QLatin1String("\n  Two-Sided Printing = Long Edge Binding")), qPrintable(box));

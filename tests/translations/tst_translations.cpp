@@ -228,7 +228,7 @@ void installLanguageFiles(const WizardFixture &f)
 
 QString placeholdersOf(const QString &text)
 {
-    static const QRegularExpression rx(QStringLiteral("%(\\d+|s)|<[^>]*>|\\n"));
+    static const QRegularExpression rx(QStringLiteral("%(\\d+|s|n)|<[^>]*>|\\n"));
     QStringList found;
     for (auto it = rx.globalMatch(text); it.hasNext();)
         found << it.next().captured();
@@ -263,8 +263,7 @@ private slots:
     void initTestCase()
     {
         QW_USE_SHARED_SCHEDULER();
-        for (const char *overriding : { "LC_ALL", "LC_MESSAGES", "LANGUAGE" })
-            qunsetenv(overriding);
+        cleanup();
         // Interfaces exist without it; active, Qt also sends the change
         // events a screen reader gets.
         QAccessible::setActive(true);
@@ -272,6 +271,8 @@ private slots:
 
     void cleanup()
     {
+        for (const char *overriding : { "LC_ALL", "LC_MESSAGES", "LANGUAGE" })
+            qunsetenv(overriding);
         const QList<QTranslator *> translators = qApp->findChildren<QTranslator *>(Qt::FindDirectChildrenOnly);
         for (QTranslator *t : translators) {
             QCoreApplication::removeTranslator(t);
@@ -284,13 +285,13 @@ private slots:
     void catalogue_data()
     {
         QTest::addColumn<QString>("language");
-        QTest::newRow("German") << "de";
-        QTest::newRow("French") << "fr";
-        QTest::newRow("Spanish") << "es";
+        for (const char *language : {"de", "fr", "es", "it", "pt_BR", "nl", "pl", "cs", "ru", "sv", "ja", "zh_CN"})
+            QTest::newRow(language) << QString::fromLatin1(language);
     }
 
     // Every text is translated with its placeholders, markup, line breaks
-    // and mnemonic; the help page has the anchors the program links to.
+    // and mnemonic, each plural form too; the help page has the anchors the
+    // program links to.
     void catalogue()
     {
         QFETCH(QString, language);
@@ -303,21 +304,26 @@ private slots:
         for (int i = 0; i < messages.count(); ++i) {
             const QString source = messages.at(i).firstChildElement("source").text();
             const QDomElement translation = messages.at(i).firstChildElement("translation");
-            const QString text = translation.text();
-            if (translation.hasAttribute("type") || text.trimmed().isEmpty())
-                faults << "unfinished: " + source;
-            else if (placeholdersOf(text) != placeholdersOf(source))
-                faults << "placeholders, markup or line breaks: " + source;
-            else if (QKeySequence::mnemonic(text).isEmpty() != QKeySequence::mnemonic(source).isEmpty())
-                faults << "mnemonic: " + source;
-            else if (source.endsWith(' ') != text.endsWith(' '))
-                faults << "trailing blank: " + source;
+            const QDomNodeList forms = translation.elementsByTagName("numerusform");
+            QStringList texts;
+            for (int f = 0; f < forms.count(); ++f)
+                texts << forms.at(f).toElement().text();
+            for (const QString &text : texts.isEmpty() ? QStringList{translation.text()} : texts) {
+                if (translation.hasAttribute("type") || text.trimmed().isEmpty())
+                    faults << "unfinished: " + source;
+                else if (placeholdersOf(text) != placeholdersOf(source))
+                    faults << "placeholders, markup or line breaks: " + source;
+                else if (QKeySequence::mnemonic(text).isEmpty() != QKeySequence::mnemonic(source).isEmpty())
+                    faults << "mnemonic: " + source;
+                else if (source.endsWith(' ') != text.endsWith(' '))
+                    faults << "trailing blank: " + source;
+            }
         }
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
 
         const QString english = readAll(TestPaths::sourceDir() + "/share/help/" + HelpPage);
         const QString page = readAll(TestPaths::sourceDir() + "/share/help/" + language + "/" + HelpPage);
-        QVERIFY(page.contains(QStringLiteral("<html lang=\"%1\">").arg(language)));
+        QVERIFY(page.contains(QStringLiteral("<html lang=\"%1\">").arg(QString(language).replace('_', '-'))));
         for (const QString &pattern : {AnchorPattern, LinkPattern})
             QCOMPARE(attributeValues(page, pattern), attributeValues(english, pattern));
     }
@@ -332,6 +338,8 @@ private slots:
         QTest::addColumn<QString>("stored");     // the choice after it
         QTest::addColumn<QString>("windowTitle");
         QTest::addColumn<QString>("jobName");  // of the test page
+        QTest::addColumn<QString>("driver");
+        QTest::addColumn<QStringList>("alike");  // words the language shares with English
 
         // Local devices need the package's backend: the queues get a port
         // typed by hand. Cancel's question takes No from Return and Escape;
@@ -340,19 +348,34 @@ private slots:
                                  "Shift+Tab Shift+Tab Down Return", "End Up Up Up F2 =printer.local/q Return Return",
                                  "Return", "Ctrl+A $queue Tab =Lab Return" };
         const QString uri = "lpd://printer.local/q";
-        QTest::newRow("English") << "" << "usb with id" << local << uri << "Resolution: 600 dpi" << "1200dpi" << "Add Printer" << "Test page";
-        QTest::newRow("German") << "de_DE" << "usb with id" << local << uri << "Resolution: 600 dpi" << "1200dpi"
-                                << "Drucker hinzufügen" << "Testseite";
-        QTest::newRow("French") << "fr_FR" << "usb with id" << local << uri << "Resolution: 600 dpi" << "1200dpi"
-                                << "Ajouter une imprimante" << "Page de test";
-        QTest::newRow("Spanish") << "es_ES" << "usb with id" << local << uri << "Resolution: 600 dpi" << "1200dpi"
-                                 << "Añadir impresora" << "Página de prueba";
+        // The device's driver comes in German and English: the wizard's
+        // language picks the twin, not the locale of the system.
+        const auto row = [&](const char *name, const char *locale, const char *title, const char *job,
+                             const QStringList &alike = {}, const char *twin = "en",
+                             const char *option = "Resolution: 600 dpi") {
+            QTest::newRow(name) << locale << "usb with id" << local << uri << option << "1200dpi" << title << job
+                                << QStringLiteral("Acme Laser 1610 Series (%1)").arg(twin) << alike;
+        };
+        row("English", "", "Add Printer", "Test page");
+        row("German", "de_DE", "Drucker hinzufügen", "Testseite", {}, "de", "Auflösung: 600 dpi");
+        row("French", "fr_FR", "Ajouter une imprimante", "Page de test");
+        row("Spanish", "es_ES", "Añadir impresora", "Página de prueba");
+        row("Italian", "it_IT", "Aggiungi stampante", "Pagina di prova", {"File"});
+        row("Brazilian Portuguese", "pt_BR", "Adicionar impressora", "Página de teste");
+        row("Dutch", "nl_NL", "Printer toevoegen", "Testpagina", {"&Printer:", "Parallel", "&Help"});
+        row("Polish", "pl_PL", "Dodaj drukarkę", "Strona testowa");
+        row("Czech", "cs_CZ", "Přidat tiskárnu", "Zkušební stránka");
+        row("Russian", "ru_RU", "Добавить принтер", "Пробная страница");
+        row("Swedish", "sv_SE", "Lägg till skrivare", "Testsida");
+        row("Japanese", "ja_JP", "プリンターの追加", "テストページ");
+        row("Simplified Chinese", "zh_CN", "添加打印机", "测试页");
         // The checked type has no device: the arrows check the next one.
         QTest::newRow("no local printer")
             << "" << "empty"
             << QStringList{ "Return", "Down Return", "End Up Up Up Up F2 =127.0.0.1:9 Return Return", "Space Return",
                             "Ctrl+A $queue Tab =Lab Return" }
-            << "socket://127.0.0.1:9" << "Color Mode: Colour" << "Gray" << "Add Printer" << "Test page";
+            << "socket://127.0.0.1:9" << "Color Mode: Colour" << "Gray" << "Add Printer" << "Test page"
+            << "Acme ColorLaser 2550" << QStringList();
     }
 
     // From the welcome page to the queue and its options with keys only.
@@ -369,6 +392,8 @@ private slots:
         QFETCH(QString, stored);
         QFETCH(QString, windowTitle);
         QFETCH(QString, jobName);
+        QFETCH(QString, driver);
+        QFETCH(QStringList, alike);
         QVERIFY2(locale.isEmpty() || m_english.contains(machine), "the English row runs first");
         const QString queue = QStringLiteral("kbd%1").arg(QCoreApplication::applicationPid());
         WizardFixture f(machine);
@@ -381,7 +406,7 @@ private slots:
         // in the language LANG names: English rows run it in one it has no
         // catalogue for.
         QVERIFY(QFile::copy(TestPaths::binaryDir() + "/tools/printertest/printertest", f.rootDir() + "/bin/printertest"));
-        qputenv("LANG", locale.isEmpty() ? "pt_BR.UTF-8" : locale.toUtf8() + ".UTF-8");
+        qputenv("LANG", locale.isEmpty() ? "ko_KR.UTF-8" : locale.toUtf8() + ".UTF-8");
         QVERIFY(f.load());
         Shown shown;
         QStringList faults;
@@ -392,6 +417,7 @@ private slots:
         }
         const auto removeQueue = qScopeGuard([&] { CUPSManager::m_CUPSManagerInstance.deletePrinter(queue); });
         QCOMPARE(f.wizard()->currentId(), int(W::FinishPage));
+        QCOMPARE(f.child<QListWidget>("DriversList")->currentItem()->text(), driver);
         checkPage(f.wizard(), shown, &faults);
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
         QCOMPARE(questions.size(), keys.join(' ').count('?'));
@@ -443,7 +469,7 @@ private slots:
         QCOMPARE(shown.keys(), english.keys());
         QStringList untranslated;
         for (auto it = shown.cbegin(); it != shown.cend(); ++it) {
-            if (it.value() == english.value(it.key()) && !sameInEveryLanguage(it.value()))
+            if (it.value() == english.value(it.key()) && !sameInEveryLanguage(it.value()) && !alike.contains(it.value()))
                 untranslated << it.key() + ": " + it.value();
         }
         QVERIFY2(untranslated.isEmpty(), qPrintable(untranslated.join('\n')));
@@ -464,10 +490,10 @@ private slots:
         QTest::newRow("French of Canada") << "fr_CA" << "" << "fr/" + HelpPage << QByteArray() << "#network";
         QTest::newRow("closest locale first") << "de_AT" << "de_AT" << "de_AT/" + HelpPage << QByteArray()
                                               << "#network";
-        QTest::newRow("not translated") << "pt_BR" << "" << HelpPage << QByteArray() << "#network";
+        QTest::newRow("not translated") << "ko_KR" << "" << HelpPage << QByteArray() << "#network";
         QTest::newRow("network page missing from the folder")
-            << "pt_BR" << "" << HelpPage << QByteArray("Missing.htm#network") << "";
-        QTest::newRow("remote network page") << "pt_BR" << "" << HelpPage
+            << "ko_KR" << "" << HelpPage << QByteArray("Missing.htm#network") << "";
+        QTest::newRow("remote network page") << "ko_KR" << "" << HelpPage
                                              << QByteArray("https://printers.example/network")
                                              << "https://printers.example/network";
     }
@@ -503,6 +529,45 @@ private slots:
             QCOMPARE(networkHelp->url(), network.startsWith('#') ? url + network : network);
         QVERIFY(f.click(QWizard::HelpButton));
         QTRY_COMPARE(readAll(opened).trimmed(), url);
+    }
+
+    void desktopLanguage_data()
+    {
+        QTest::addColumn<QStringList>("environment");  // LANGUAGE, LC_ALL, LC_MESSAGES, LANG
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("next");  // the wizard's button
+        const QString de = "de_DE.UTF-8";
+        QTest::newRow("LANGUAGE and its fallback") << QStringList{"pt_BR:pt", "", "", de} << "pt_BR" << "&Próximo >";
+        QTest::newRow("LANGUAGE's first has none") << QStringList{"eo:nl", "", "", de} << "nl" << "&Volgende >";
+        QTest::newRow("a country of the language") << QStringList{"", "", "", "fr_CA.UTF-8"} << "fr_CA" << "&Suivant >";
+        QTest::newRow("LC_ALL first") << QStringList{"", "ru_RU.UTF-8", "ja_JP.UTF-8", de} << "ru_RU" << "&Далее >";
+        QTest::newRow("LC_MESSAGES over LANG") << QStringList{"", "", "ja_JP.UTF-8", de} << "ja_JP" << "次へ(&N) >";
+        QTest::newRow("modifier") << QStringList{"", "", "", "de_DE@euro"} << "de_DE" << "&Weiter >";
+        QTest::newRow("Qt has no Swedish") << QStringList{"sv", "", "", ""} << "sv" << "&Nästa >";
+        QTest::newRow("English asked for first") << QStringList{"en_GB:de", "", "", de} << "en_GB" << "&Next >";
+        QTest::newRow("no catalogue") << QStringList{"", "", "", "ko_KR.UTF-8"} << "en" << "&Next >";
+        QTest::newRow("Chinese of Taiwan") << QStringList{"", "", "", "zh_TW.UTF-8"} << "en" << "&Next >";
+        QTest::newRow("C locale") << QStringList{"", "", "", "C"} << "en" << "&Next >";
+    }
+
+    // The desktop's languages choose the catalogue, the default locale and
+    // Qt's own texts; English has its singular.
+    void desktopLanguage()
+    {
+        QFETCH(QStringList, environment);
+        QFETCH(QString, locale);
+        QFETCH(QString, next);
+        const char *const variables[] = {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"};
+        for (int i = 0; i < 4; ++i)
+            qputenv(variables[i], environment.at(i).toUtf8());
+        WizardFixture f;
+        installLanguageFiles(f);
+        QCOMPARE(installTranslations(*qApp), locale);
+        QCOMPARE(QLocale().name(), QLocale(locale).name());
+        QCOMPARE(QCoreApplication::translate("QWizard", "&Next >"), next);
+        if (locale.startsWith("en"))
+            QVERIFY(QCoreApplication::translate("PPDTreeView", "You selected %n options that are in conflict. Resolve the "
+                                                "conflict before you continue:\n", nullptr, 1).startsWith("You selected 1 option that is"));
     }
 };
 

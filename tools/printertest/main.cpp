@@ -4,6 +4,7 @@
 
 #include "cupsmanager.h"
 #include "cupsprinter.h"
+#include "desktoplanguage.h"
 #include "oemconfig.h"
 #include "papersize.h"
 #include "testsheet.h"
@@ -11,9 +12,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QHostInfo>
-#include <QLocale>
 #include <QTemporaryDir>
-#include <QTranslator>
 
 #include <cstdio>
 
@@ -32,11 +31,9 @@ int main(int argc, char **argv)
     QGuiApplication app(argc, argv);
 
     // The sheet speaks the user's language, as the wizard does.
-    QTranslator translator;
     readOemConfig(argv[0]);
-    if (translator.load(QStringLiteral("queuewiz-") + QLocale::system().name(),
-                        QDir(QString::fromLocal8Bit(actx.shareDir)).filePath(QStringLiteral("tr"))))
-        app.installTranslator(&translator);
+    DesktopLanguage::install(app, QDir(QString::fromLocal8Bit(actx.shareDir)).filePath(QStringLiteral("tr")),
+                             QStringLiteral("queuewiz"));
 
     if (argc != 2 || argv[1][0] == '\0') {
         fprintf(stderr, "usage: printertest QUEUE\n");
