@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>NEZNÁMÝ</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>Hledá se tisková služba...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

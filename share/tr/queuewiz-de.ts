@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>UNBEKANNT</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>Der Druckdienst wird gesucht...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

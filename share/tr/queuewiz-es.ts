@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>DESCONOCIDA</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>Buscando el servicio de impresión...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>INCONNUE</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>Recherche du service d&apos;impression...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>SCONOSCIUTO</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>Ricerca del servizio di stampa in corso...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>不明</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>印刷サービスを探しています...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

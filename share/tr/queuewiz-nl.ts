@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>ONBEKEND</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>Afdrukservice wordt gezocht...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

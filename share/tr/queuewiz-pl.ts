@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>NIEZNANY</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>Wyszukiwanie usługi drukowania...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>DESCONHECIDO</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>Procurando o serviço de impressão...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

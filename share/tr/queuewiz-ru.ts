@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>НЕИЗВЕСТНО</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>Поиск службы печати...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>OKÄND</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>Letar efter utskriftstjänsten...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -77,6 +77,10 @@
         <source>UNKNOWN</source>
         <translation>未知</translation>
     </message>
+    <message>
+        <source>Looking for the printing service...</source>
+        <translation>正在查找打印服务...</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
