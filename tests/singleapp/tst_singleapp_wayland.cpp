@@ -3,6 +3,7 @@
 // No scheduler answers, so the window must not wait for one either.
 
 #include "testpaths.h"
+#include "testsupport.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,6 +13,8 @@
 
 #include <memory>
 #include <signal.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -54,12 +57,14 @@ class TestSingleAppWayland : public QObject
     QProcess m_xvfb;
     QString m_display;
 
-    // platform: what the user forced through QT_QPA_PLATFORM, if anything.
+    // platform: what the user forced through QT_QPA_PLATFORM, if anything;
+    // session "nobody:DIR:SOCKET" runs it as nobody in that Wayland session.
     Wizard launch(const QString &session, const QByteArray &token = QByteArray(), const QString &platform = QString())
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert("XDG_RUNTIME_DIR", m_runtime.path());
-        env.insert("WAYLAND_DISPLAY", Socket);
+        const QStringList nobody = session.split(':');
+        env.insert("XDG_RUNTIME_DIR", nobody.size() == 3 ? nobody.at(1) : m_runtime.path());
+        env.insert("WAYLAND_DISPLAY", nobody.size() == 3 ? nobody.at(2) : Socket);
         env.remove("QT_QPA_PLATFORM");
         if (!platform.isEmpty())
             env.insert("QT_QPA_PLATFORM", platform);
@@ -73,7 +78,16 @@ class TestSingleAppWayland : public QObject
         env.insert("QT_LOGGING_RULES", "queuewiz.instance.debug=true");
         auto wizard = std::make_unique<Run>();
         wizard->process.setProcessEnvironment(env);
-        wizard->process.start(TestPaths::binaryDir() + "/app/queuewiz", QStringList());
+        const QString program = TestPaths::binaryDir() + "/app/queuewiz";
+        if (nobody.size() == 3) {
+            env.insert("HOME", nobody.at(1));
+            env.insert("QUEUEWIZ_LOG_DIR", nobody.at(1));
+            env.insert("WAYLAND_DEBUG", "client");
+            wizard->process.setProcessEnvironment(env);
+            wizard->process.start("setpriv", {"--reuid=65534", "--regid=65534", "--clear-groups", "--", program});
+        } else {
+            wizard->process.start(program, QStringList());
+        }
         return wizard;
     }
 
@@ -145,6 +159,40 @@ private slots:
             QVERIFY(!first->said().contains("token"));
         QVERIFY(first->running());
         close(first->process);
+    }
+
+    // A compositor that knows xdg-activation (sway) is shown the token that
+    // the second start brought. Sway won't run as root: both run as nobody.
+    void tokenActivatesTheWizard()
+    {
+        if (geteuid() != 0)
+            QSKIP("acting as nobody needs root");
+        QTemporaryDir home;
+        QVERIFY(TestSupport::writeFile(home.filePath("sway.conf"), "output HEADLESS-1 resolution 1024x768\n"));
+        QVERIFY(::chown(qPrintable(home.path()), 65534, 65534) == 0 && ::chmod(qPrintable(home.path()), 0700) == 0);
+        QProcess sway;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"WLR_BACKENDS=headless", "WLR_LIBINPUT_NO_DEVICES=1", "WLR_RENDERER=pixman"})
+            env.insert(QString::fromLatin1(name).section('=', 0, 0), QString::fromLatin1(name).section('=', 1));
+        env.insert("XDG_RUNTIME_DIR", home.path());
+        env.insert("HOME", home.path());
+        sway.setProcessEnvironment(env);
+        sway.setStandardOutputFile(QProcess::nullDevice());
+        sway.setStandardErrorFile(QProcess::nullDevice());
+        sway.start("setpriv", {"--reuid=65534", "--regid=65534", "--clear-groups", "--", "sway", "-c",
+                               home.filePath("sway.conf")});
+        QString socket;
+        QTRY_VERIFY_WITH_TIMEOUT(!(socket = QDir(home.path()).entryList({"wayland-?"}, QDir::System).value(0)).isEmpty(),
+                                 30000);
+        const QString session = "nobody:" + home.path() + ':' + socket;
+        Wizard first = launch(session);
+        QVERIFY2(first->says("listening"), first->said().constData());
+        Wizard second = launch(session, "launcher-sway-token");
+        QVERIFY2(second->ended(0), second->said().constData());
+        QVERIFY2(first->says("xdg_activation_v1@"), first->said().right(2000).constData());
+        QVERIFY(first->says(".activate(\"launcher-sway-token\", wl_surface@"));
+        close(first->process);
+        close(sway);
     }
 
     // What a wizard killed hard leaves behind does not stand in the way of
