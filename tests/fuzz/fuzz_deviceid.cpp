@@ -1,6 +1,7 @@
 // IEEE 1284 device IDs as printers report them: field look-up, fitting into
-// the record's field, and the parallel port's autoprobe text. Output buffers
-// sit between guard bytes that must stay untouched.
+// the record's field, the usb URI made of a value, and the parallel port's
+// autoprobe text. Output buffers sit between guard bytes that must stay
+// untouched; what goes into the backend's quoted device list stays clean.
 #include "fuzztarget.h"
 #include "mfpinternal.h"
 
@@ -25,6 +26,12 @@ struct Guarded
             require(before[i] == 0x5a && after[i] == 0x5a);
         requireTerminated(buf);
     }
+    void checkClean() const
+    {
+        check();
+        for (const char *c = buf; *c; ++c)
+            require(static_cast<unsigned char>(*c) >= 0x20 && *c != 0x7f && *c != '"');
+    }
 };
 
 } // namespace
@@ -36,11 +43,15 @@ QW_FUZZ_TARGET
 
     Guarded<64> value;
     mfp_id_value(id.c_str(), keys, value.buf, sizeof value.buf);
-    value.check();
+    value.checkClean();
+
+    Guarded<128> uri;
+    mfp_usb_uri(value.buf, value.buf, value.buf, 1, uri.buf, sizeof uri.buf);
+    uri.checkClean();
 
     Guarded<120> fitted;
     mfp_id_fit(id.c_str(), fitted.buf, sizeof fitted.buf);
-    fitted.check();
+    fitted.checkClean();
 
     Guarded<1024> probed;
     mfp_id_from_autoprobe(id.c_str(), probed.buf, sizeof probed.buf);
