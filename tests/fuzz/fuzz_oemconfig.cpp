@@ -1,6 +1,5 @@
-// "OEM.ini" of any content: a text file is read, anything else counts as no
-// file at all and leaves the configuration alone; every string field stays
-// terminated within its width and the counts within their arrays.
+// "OEM.ini" of any content: text is read, anything else is no file and leaves
+// the configuration alone; string fields stay terminated, counts in bounds.
 #include "fuzztarget.h"
 #include "oemconfig.h"
 
@@ -20,19 +19,10 @@ const std::string &packageRoot()
         const std::string r = dir;
         mkdir((r + "/share").c_str(), 0700);
         mkdir((r + "/bin").c_str(), 0700);
-        // the reader's last resort; one here would be read for a binary input
-        require(access("OEM.ini", F_OK) != 0);
+        require(access("OEM.ini", F_OK) != 0); // the reader's last resort
         return r;
     }();
     return root;
-}
-
-// Text as the reader takes it: no control character but tab and line ends.
-bool isText(const uint8_t *data, size_t size)
-{
-    return std::none_of(data, data + size, [](uint8_t c) {
-        return (c < 0x20 && c != '\t' && c != '\n' && c != '\r') || c == 0x7f;
-    });
 }
 
 } // namespace
@@ -46,9 +36,10 @@ QW_FUZZ_TARGET
     fclose(f);
 
     memset(&actx, 0, sizeof actx);
+    const bool text = std::none_of(data, data + size,
+                                   [](uint8_t c) { return (c < 0x20 && !memchr("\t\n\r", c, 3)) || c == 0x7f; });
     const int read = readOemConfig((packageRoot() + "/bin/queuewiz").c_str());
-    require(read == (isText(data, size) ? 0 : -1));
-    require(read == 0 || (!actx.vendor[0] && !actx.modelCount && !actx.parPort));
+    require(read == (text ? 0 : -1) && (text || (!actx.vendor[0] && !actx.modelCount && !actx.parPort)));
     requireTerminated(actx.vendor);
     requireTerminated(actx.vendorLower);
     requireTerminated(actx.vendorUpper);
