@@ -18,6 +18,8 @@ string(JOIN "\n" CPACK_PACKAGE_DESCRIPTION
   "by hand. It creates the CUPS queue, sets the paper size of the user's"
   "country, makes the printer the default and prints a test page.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /)
+# The menu entry names the program's path and the scheduler finds the
+# backend and drivers only where they are: nothing moves.
 set(CPACK_PACKAGE_RELOCATABLE OFF)
 # The components go in stripped, whatever the build type: the packages
 # carry no debug symbols.
