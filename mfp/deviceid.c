@@ -6,16 +6,22 @@
 #include <string.h>
 #include <strings.h>
 
-/* Length of the UTF-8 sequence that begins with byte c (1 for stray bytes). */
-static size_t utf8_length(unsigned char c)
+/*
+ * Length of the well-formed UTF-8 character at s, or 0 when s begins none:
+ * a stray byte, a cut sequence, an overlong form (which a lenient reader
+ * could take for a control character) or a surrogate.
+ */
+static size_t utf8_length(const unsigned char *s)
 {
-    if (c >= 0xf0 && c < 0xf8)
-        return 4;
-    if (c >= 0xe0)
-        return c < 0xf0 ? 3 : 1;
-    if (c >= 0xc0)
-        return 2;
-    return 1;
+    size_t len = *s < 0x80 ? 1 : *s < 0xc2 ? 0 : *s < 0xe0 ? 2 : *s < 0xf0 ? 3 : *s < 0xf5 ? 4 : 0;
+    /* the second byte's range for the lead bytes that restrict it */
+    unsigned char low = *s == 0xe0 ? 0xa0 : *s == 0xf0 ? 0x90 : 0x80;
+    unsigned char high = *s == 0xed ? 0x9f : *s == 0xf4 ? 0x8f : 0xbf;
+    for (size_t i = 1; i < len; ++i) {
+        if (s[i] < (i == 1 ? low : 0x80) || s[i] > (i == 1 ? high : 0xbf))
+            return 0;
+    }
+    return len;
 }
 
 void mfp_copy_text(char *dst, const char *src, size_t size)
@@ -25,10 +31,10 @@ void mfp_copy_text(char *dst, const char *src, size_t size)
     size_t out = 0;
     const unsigned char *s = (const unsigned char *)(src ? src : "");
     while (*s) {
-        size_t len = utf8_length(*s);
-        if (strnlen((const char *)s, len) < len)
-            len = 1;
-        if (len == 1 && (*s < 0x20 || *s == 0x7f)) {
+        /* what a device sends need not be UTF-8: a stray byte is dropped,
+           as are the C0 and C1 controls and DEL */
+        size_t len = utf8_length(s);
+        if (!len || (len == 1 && (*s < 0x20 || *s == 0x7f)) || (len == 2 && *s == 0xc2 && s[1] < 0xa0)) {
             ++s;
             continue;
         }
@@ -221,15 +227,18 @@ int mfp_usb_uri(const char *make, const char *model, const char *serial, int ifa
     if (!*path)
         path = "Unknown Model";
 
+    /* a cut serial number would name no device, or another one */
     char query[256];
+    int n = 0;
     if (serial && *serial)
-        snprintf(query, sizeof query, iface > 0 ? "?serial=%s&interface=%d" : "?serial=%s", serial, iface);
+        n = snprintf(query, sizeof query, iface > 0 ? "?serial=%s&interface=%d" : "?serial=%s", serial, iface);
     else if (iface > 0)
-        snprintf(query, sizeof query, "?interface=%d", iface);
+        n = snprintf(query, sizeof query, "?interface=%d", iface);
     else
         query[0] = '\0';
 
-    if (httpAssembleURIf(HTTP_URI_CODING_ALL, uri, (int)size, "usb", NULL, host, 0, "/%s%s", path, query)
+    if (n < 0 || n >= (int)sizeof query
+        || httpAssembleURIf(HTTP_URI_CODING_ALL, uri, (int)size, "usb", NULL, host, 0, "/%s%s", path, query)
         < HTTP_URI_STATUS_OK) {
         uri[0] = '\0';
         return 0;

@@ -57,14 +57,15 @@ static int join_path(char *out, size_t size, const char *dir, const char *name)
 }
 
 /*
- * Reads the attribute file dir/name into buf, without trailing white space.
- * 1 when the file could be read.
+ * Reads the attribute file dir/name into buf, without trailing white space
+ * (the kernel's line end); a NUL byte ends the text. 1 when the file could
+ * be read. An empty dir is a path that did not fit: nothing to read.
  */
 static int read_attr(const char *dir, const char *name, char *buf, size_t size)
 {
     char path[PATH_LEN];
     buf[0] = '\0';
-    if (!join_path(path, sizeof path, dir, name))
+    if (!*dir || !join_path(path, sizeof path, dir, name))
         return 0;
     FILE *f = fopen(path, "r");
     if (!f)
@@ -147,7 +148,9 @@ static void fill_parallel(const char *dir, const char *name, mfp_device *device)
     device->type = MFP_DEVICE_PARALLEL;
     mfp_id_value(id, make_keys, device->make, sizeof device->make);
     mfp_id_value(id, model_keys, device->model, sizeof device->model);
-    snprintf(device->uri, sizeof device->uri, "parallel:/dev/lp%s", name + 7);
+    /* a cut number would name another port */
+    if (snprintf(device->uri, sizeof device->uri, "parallel:/dev/lp%s", name + 7) >= (int)sizeof device->uri)
+        device->uri[0] = '\0';
     mfp_id_fit(id, device->device_id, sizeof device->device_id);
 }
 

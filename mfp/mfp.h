@@ -52,8 +52,9 @@ enum {
 
 /*
  * One device. Every string is NUL-terminated within its field; a longer
- * value is cut (at a UTF-8 character boundary). Control characters are
- * dropped and '"' becomes '\'', so each field fits a quoted line. The
+ * value is cut (at a UTF-8 character boundary). Control characters and
+ * bytes that are not UTF-8 are dropped and '"' becomes '\'', so each field
+ * fits a quoted line. The
  * device ID of a device whose full ID does not fit keeps the keys a driver
  * is chosen by (maker, model, command set, class, description) and ends
  * after a ';'.

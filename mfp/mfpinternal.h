@@ -13,9 +13,10 @@ extern "C" {
 enum { MFP_ID_MAX = 1024 };
 
 /*
- * Copies text for display: control characters are dropped and '"' becomes
- * '\'' (the scheduler's device list quotes these fields), then the result is
- * cut to size - 1 bytes without splitting a UTF-8 character.
+ * Copies text for display: control characters and bytes that are not UTF-8
+ * are dropped and '"' becomes '\'' (the scheduler's device list quotes these
+ * fields), then the result is cut to size - 1 bytes without splitting a
+ * UTF-8 character.
  */
 void mfp_copy_text(char *dst, const char *src, size_t size);
 

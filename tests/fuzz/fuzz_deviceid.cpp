@@ -1,6 +1,6 @@
 // IEEE 1284 device IDs as printers report them: field look-up, fitting into
 // the record's field, and the parallel port's autoprobe text. Output buffers
-// sit between guard bytes that must stay untouched.
+// sit between guard bytes that must stay untouched; fields stay clean text.
 #include "fuzztarget.h"
 #include "mfpinternal.h"
 
@@ -19,11 +19,13 @@ struct Guarded
         memset(before, 0x5a, sizeof before);
         memset(after, 0x5a, sizeof after);
     }
-    void check() const
+    void check(bool clean = true) const
     {
         for (size_t i = 0; i < 16; ++i)
             require(before[i] == 0x5a && after[i] == 0x5a);
         requireTerminated(buf);
+        for (const char *c = buf; clean && *c; ++c)
+            require(static_cast<unsigned char>(*c) >= 0x20 && *c != 0x7f && *c != '"');
     }
 };
 
@@ -44,6 +46,6 @@ QW_FUZZ_TARGET
 
     Guarded<1024> probed;
     mfp_id_from_autoprobe(id.c_str(), probed.buf, sizeof probed.buf);
-    probed.check();
+    probed.check(false); // raw: the look-ups clean it
     return 0;
 }

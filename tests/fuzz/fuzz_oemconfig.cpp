@@ -1,8 +1,9 @@
-// "OEM.ini" of any content: every string field stays terminated within its
-// width and the counts within their arrays.
+// "OEM.ini" of any content: text is read, anything else is no file and leaves
+// the configuration alone; string fields stay terminated, counts in bounds.
 #include "fuzztarget.h"
 #include "oemconfig.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <sys/stat.h>
@@ -18,6 +19,7 @@ const std::string &packageRoot()
         const std::string r = dir;
         mkdir((r + "/share").c_str(), 0700);
         mkdir((r + "/bin").c_str(), 0700);
+        require(access("OEM.ini", F_OK) != 0); // the reader's last resort
         return r;
     }();
     return root;
@@ -34,7 +36,10 @@ QW_FUZZ_TARGET
     fclose(f);
 
     memset(&actx, 0, sizeof actx);
-    require(readOemConfig((packageRoot() + "/bin/queuewiz").c_str()) == 0);
+    const bool text = std::none_of(data, data + size,
+                                   [](uint8_t c) { return (c < 0x20 && !memchr("\t\n\r", c, 3)) || c == 0x7f; });
+    const int read = readOemConfig((packageRoot() + "/bin/queuewiz").c_str());
+    require(read == (text ? 0 : -1) && (text || (!actx.vendor[0] && !actx.modelCount && !actx.parPort)));
     requireTerminated(actx.vendor);
     requireTerminated(actx.vendorLower);
     requireTerminated(actx.vendorUpper);

@@ -116,8 +116,8 @@ private slots:
             << "MFG:Acme;MDL:" + QByteArray(100, 'M') + ";" << 2 << QString(MFP_MODEL_SIZE - 1, QLatin1Char('M'));
         QTest::newRow("model cut between UTF-8 characters")
             << "MFG:Acme;MDL:" + QString(40, QChar(0xdc)).toUtf8() + ";" << 2 << QString(31, QChar(0xdc));
-        QTest::newRow("quotes and control characters") << QByteArray("MFG:Acme;MDL:Laser \"Pro\"\x01 2;") << 2
-                                                       << "Laser 'Pro' 2";
+        QTest::newRow("quotes, control characters, bytes that are not UTF-8 and a line end behind one")
+            << QByteArray("MFG:Acme;MDL:Laser \"Pro\"\x01 2\xc3\n3\xff\xe0\x80\x8a\xc2\x85" "4;") << 2 << "Laser 'Pro' 234";
         QTest::newRow("long ID keeps what drivers are matched by")
             << "SN:" + QByteArray(200, 'x') + ";MFG:Acme;CMD:PCL;VER:1;MDL:Laser 1610;" << 4
             << "MFG:Acme;MDL:Laser 1610;CMD:PCL;";
