@@ -7,6 +7,7 @@
 #include "drivermatcher.h"
 #include "layoutdump.h"
 #include "listviewitemex.h"
+#include "networksearchnote.h"
 #include "oemconfig.h"
 #include "papersize.h"
 #include "ppddialog.h"
@@ -110,6 +111,8 @@ bool AddPrinterWizard::setupUi()
     m_pPortTypes->addButton(m_pOfflineButton, PortType_Manual);
 
     m_groupTitleTemplate = m_pConnectedPrintersGroup->title();
+    m_pSearchNote = new NetworkSearchNote(this);
+    connect(m_pSearchNote, &NetworkSearchNote::typeAddressRequested, this, &AddPrinterWizard::typeAddressInstead);
 
     m_pixmaps.load(shareDir());
     findLocalDevices();
@@ -273,6 +276,7 @@ void AddPrinterWizard::setPortType(int id)
     m_pNetworkList->setEnabled(id == PortType_AutoNetwork);
     // A search only makes sense for the network type.
     m_pSearchNetworkButton->setEnabled(id == PortType_AutoNetwork);
+    m_pSearchNote->setActive(id == PortType_AutoNetwork);
 
     bool ok = false;
     switch (id) {
@@ -341,6 +345,7 @@ void AddPrinterWizard::OnSearchNetworkButtonClicked()
     m_NetworkDevices.discover(actx.rootDir, actx.shareDir, CUPSManager::m_CUPSManagerInstance.CupsVersion);
     for (NetworkDeviceList::size_type i = 0; i < m_NetworkDevices.count(); ++i)
         m_pNetworkList->addItem(m_NetworkDevices.at(i).entryText());
+    m_pSearchNote->setSearch(m_NetworkDevices);
 
     // Next and the port follow the new list.
     setPortType(m_pPortTypes->id(button));
@@ -357,6 +362,7 @@ void AddPrinterWizard::OnNetworkPrinterChanged(int index)
 void AddPrinterWizard::applyNetworkDevice(int index)
 {
     m_portAssigned = false;
+    m_networkUri.clear();
     if (!softAssert(NetworkDeviceList::size_type(m_pNetworkList->count()) == m_NetworkDevices.count(),
                     "NetworkDeviceList::size_type(NetworkList->count()) == m_NetworkDevices.count()",
                     "AddPrinterWizard", 1117)
@@ -371,9 +377,27 @@ void AddPrinterWizard::applyNetworkDevice(int index)
     m_pPortsView->clearSelection();
     if (uri.isEmpty())
         return;
-    m_portAssigned = selectPort(uri);
-    if (m_portAssigned)
-        selectMatchingDriver(device.description, QString());
+    // PortsView shows the URI where it has an entry of its scheme.
+    selectPort(uri);
+    m_networkUri = uri;
+    m_portAssigned = true;
+    selectMatchingDriver(device.description, QString());
+}
+
+// From a search that found nothing to the IPP entry of the ports page,
+// open for typing.
+void AddPrinterWizard::typeAddressInstead()
+{
+    m_pOfflineButton->setChecked(true);
+    next();
+    selectPort(QStringLiteral("ipp://"));
+    m_pPortsView->setFocus();
+    m_pPortsView->startRenameSelectedItem();
+}
+
+QString AddPrinterWizard::portURI() const
+{
+    return portTypeId() == PortType_AutoNetwork ? m_networkUri : m_pPortsView->selectedURI();
 }
 
 // ---- port page ----------------------------------------------------------
@@ -505,7 +529,7 @@ bool AddPrinterWizard::commitPrinter()
 
     const QString name = m_pNameEdit->text();
     CUPSPrinter printer(name);
-    printer.setDeviceURI(m_pPortsView->selectedURI());
+    printer.setDeviceURI(portURI());
     printer.setLocation(m_pLocationEdit->text());
     printer.setInfo(m_pDescriptionEdit->text());
     printer.setState(IPP_PSTATE_IDLE);

@@ -13,6 +13,7 @@
 #include <QString>
 
 class ListViewItemEx;
+class NetworkSearchNote;
 class PrinterPortListView;
 class QButtonGroup;
 class QComboBox;
@@ -49,6 +50,9 @@ public:
     bool isPrinterNameAssigned() const;
     // The checked port type, -1 before setupUi().
     int portTypeId() const;
+    // The device URI the queue will get: the network printer's when that
+    // type is chosen, else PortsView's selected entry's.
+    QString portURI() const;
 
     const LocalDeviceList &localDevices() const { return m_localDevices; }
     const NetworkDeviceList &networkDevices() const { return m_NetworkDevices; }
@@ -90,6 +94,7 @@ private:
     void applyLocalDevice(const QString &label);
     void selectMatchingDriver(const QString &model, const QString &make);
     void applyNetworkDevice(int index);
+    void typeAddressInstead();
     // Selects the entry of PortsView that stands for uri.
     bool selectPort(const QString &uri);
     void proposeName();
@@ -131,9 +136,12 @@ private:
     QPushButton *m_pRetryDriversButton = nullptr;
 
     QButtonGroup *m_pPortTypes = nullptr;
+    NetworkSearchNote *m_pSearchNote = nullptr;
     LocalDeviceList m_localDevices;
     NetworkDeviceList m_NetworkDevices;
     CUPSPrinter m_newPrinter;
+    // The chosen network printer's URI; PortsView has no entry for some.
+    QString m_networkUri;
     // Lives as long as the wizard: it remembers queues a failed commit may
     // have left half-made.
     PrinterCreator m_creator;
