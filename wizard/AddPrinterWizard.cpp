@@ -340,6 +340,7 @@ void AddPrinterWizard::OnSearchNetworkButtonClicked()
     }
     m_pNetworkList->clear();
     m_portAssigned = false;
+    m_networkUri.clear();
     m_pPortsView->clearSelection();
 
     m_NetworkDevices.discover(actx.rootDir, actx.shareDir, CUPSManager::m_CUPSManagerInstance.CupsVersion);
