@@ -150,7 +150,7 @@ int CUPSManager::probeServerVersion()
         return -1;
     static const QRegularExpression product(QStringLiteral("CUPS/(\\d+)\\.(\\d+)"));
     const QRegularExpressionMatch match = product.match(QString::fromLatin1(httpGetField(http.get(), HTTP_FIELD_SERVER)));
-    return match.hasMatch() ? match.captured(2).toInt() : -1;
+    return match.hasMatch() ? CupsVersionProbe::level(match.captured(1).toInt(), match.captured(2).toInt()) : -1;
 }
 
 // --- Sending -------------------------------------------------------------

@@ -38,8 +38,9 @@ public:
 
     // IPP status code of the last answer; 0 when the last request got none.
     int LastStatus = 0;
-    // Minor version of the installed CUPS (1 for 1.1.x, 4 for 2.4.x), -1
-    // when unknown; probed while start-up goes on, used like an int.
+    // Version level of the installed CUPS (CupsVersionProbe::level: 101 for
+    // 1.1.x, 204 for 2.4.x), -1 when unknown; probed while start-up goes on,
+    // used like an int.
     CupsVersionProbe CupsVersion;
 
     // The instance of the program, made before main() runs.
@@ -141,7 +142,7 @@ public:
     // Through cupsCancelJob.
     bool cancelJob(const QString &queueName, int jobId);
 
-    // The minor version that the running scheduler names in its HTTP
+    // The version level of what the running scheduler names in its HTTP
     // "Server" header, -1 when none answers within a second.
     static int probeServerVersion();
 

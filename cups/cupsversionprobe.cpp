@@ -2,6 +2,7 @@
 
 #include <QByteArrayView>
 #include <QFile>
+#include <QRegularExpression>
 #include <QString>
 
 #include <algorithm>
@@ -16,8 +17,10 @@ extern char **environ;
 
 namespace {
 
+// The first two dot-separated fields: the major number ends the first
+// ("cups-2", "Version: 1"), the minor number is the second.
 const char kPipeline[] = "((which rpm >/dev/null && rpm -q cups) || (which dpkg >/dev/null && dpkg -p "
-                         "cupsys-common | grep -i \"version:\")) | awk -F. '{ print $2 }'";
+                         "cupsys-common | grep -i \"version:\")) | awk -F. '{ print $1 \".\" $2 }'";
 const char kOldPackage[] = "\nPackage: cupsys-common\n";
 // An answer this long is not a version number.
 constexpr int kMaxAnswer = 15;
@@ -132,9 +135,14 @@ int CupsVersionProbe::readAnswer(bool *answered)
     *answered = length > 0;
     if (length == 0 || length >= kMaxAnswer)
         return -1;
-    bool ok = false;
-    const int version = QString::fromLatin1(text, length).trimmed().toInt(&ok, 10);
-    return ok ? version : -1;
+    return parseLevel(QString::fromLatin1(text, length));
+}
+
+int CupsVersionProbe::parseLevel(const QString &text)
+{
+    static const QRegularExpression version(QStringLiteral("(\\d+)\\.(\\d+)"));
+    const QRegularExpressionMatch m = version.match(text);
+    return m.hasMatch() ? level(m.captured(1).toInt(), m.captured(2).toInt()) : -1;
 }
 
 void CupsVersionProbe::stop()

@@ -1,10 +1,13 @@
 #ifndef QUEUEWIZ_CUPSVERSIONPROBE_H
 #define QUEUEWIZ_CUPSVERSIONPROBE_H
 
+#include <QString>
+
+#include <algorithm>
 #include <sys/types.h>
 
-// The minor version of the installed CUPS (1 for 1.1.x, 4 for 2.4.x), -1
-// when unknown. The package query is a shell pipeline that takes a good
+// The version level of the installed CUPS, major * 100 + minor (101 for
+// 1.1.x, 204 for 2.4.x, 300 for 3.0), -1 when unknown. The package query is a shell pipeline that takes a good
 // part of a second: where it can answer at all (rpm, or dpkg knowing the
 // old package name) it starts with this object and is read when the number
 // is first used, so that start-up goes on meanwhile. When no package
@@ -22,6 +25,13 @@ public:
     CupsVersionProbe &operator=(int version);
     operator int() const { return value(); }
     int value() const;
+
+    static constexpr int level(int major, int minor) { return major * 100 + std::clamp(minor, 0, 99); }
+    // CUPS 1.2 began to take IPv6 addresses in device URIs; an unknown
+    // level counts as older.
+    static constexpr bool takesIpv6(int level) { return level >= 102; }
+    // The level of the first "MAJOR.MINOR" in text ("cups-2.4", "Version: 1.1"), -1 without one.
+    static int parseLevel(const QString &text);
 
 private:
     void start();

@@ -49,7 +49,7 @@ QStringList devicePaths(const char *format, int first, int count)
 // is judged, not while the forms load: the version may still be probed.
 bool cupsTakesIpv6()
 {
-    return CUPSManager::m_CUPSManagerInstance.CupsVersion > 1;
+    return CupsVersionProbe::takesIpv6(CUPSManager::m_CUPSManagerInstance.CupsVersion);
 }
 
 } // namespace

@@ -172,6 +172,11 @@ int AddPrinterWizard::portTypeId() const
     return m_ports->portTypeId();
 }
 
+QString AddPrinterWizard::portURI() const
+{
+    return m_ports->deviceUri();
+}
+
 const LocalDeviceList &AddPrinterWizard::localDevices() const
 {
     return m_ports->localDevices();

@@ -45,6 +45,8 @@ public:
     bool isPrinterNameAssigned() const;
     // The checked port type, -1 before setupUi().
     int portTypeId() const;
+    // The device URI the queue will get.
+    QString portURI() const;
 
     const LocalDeviceList &localDevices() const;
     const NetworkDeviceList &networkDevices() const;

@@ -1,14 +1,20 @@
 #include "networkdevicelist.h"
 
+#include "cupsversionprobe.h"
 #include "mfp.h"
 #include "waitcursor.h"
 
 #include <QCoreApplication>
+#include <QHostAddress>
+#include <QRegularExpression>
+#include <QUrl>
 
 #include <cctype>
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <sys/wait.h>
 
 namespace {
 
@@ -19,6 +25,8 @@ struct PipeCloser
 using PipePtr = std::unique_ptr<FILE, PipeCloser>;
 
 constexpr char DescriptionMarker[] = "dsc: \"";
+constexpr char UriMarker[] = " uri: ";
+constexpr char UnavailableMarker[] = "# unavailable: ";
 constexpr size_t CommunityMax = 512;
 
 // The package root and the community come from files a user may edit:
@@ -46,7 +54,33 @@ QString bracketed(const QString &address)
     return QLatin1Char('[') + host + QLatin1Char(']');
 }
 
+// The announced URI at the end of a line, after the description's closing
+// quote: a printer's own scheme and host, no blank, no quote; else empty.
+QString announcedUri(const char *line)
+{
+    const char *quote = strrchr(line, '"');
+    const char *marker = nullptr;
+    for (const char *m = strstr(quote ? quote : line, UriMarker); m; m = strstr(m + 1, UriMarker))
+        marker = m;
+    if (!marker)
+        return QString();
+    const QString text = QString::fromUtf8(marker + strlen(UriMarker));
+    const QUrl url(text, QUrl::StrictMode);
+    static const QStringList schemes{QStringLiteral("ipp"), QStringLiteral("ipps"), QStringLiteral("socket"),
+                                     QStringLiteral("lpd"), QStringLiteral("dnssd")};
+    if (text.isEmpty() || text.contains(QLatin1Char('"')) || text.contains(QRegularExpression(QStringLiteral("\\s")))
+        || !url.isValid() || url.host().isEmpty() || !schemes.contains(url.scheme())
+        || !text.startsWith(url.scheme() + QLatin1String("://")))
+        return QString();
+    return text;
+}
+
 } // namespace
+
+bool NetworkDeviceList::Device::isLoopback() const
+{
+    return QHostAddress(address).isLoopback();
+}
 
 QString NetworkDeviceList::Device::protocolText() const
 {
@@ -65,6 +99,8 @@ QString NetworkDeviceList::Device::protocolText() const
 
 QString NetworkDeviceList::Device::uriScheme() const
 {
+    if (!uri.isEmpty())
+        return uri.section(QLatin1Char(':'), 0, 0);
     if (isIPv6())
         return QStringLiteral("socket");
     if (!slp[SlpAnswered] || slp[SlpIpp])
@@ -78,6 +114,8 @@ QString NetworkDeviceList::Device::uriScheme() const
 
 QString NetworkDeviceList::Device::deviceUri() const
 {
+    if (!uri.isEmpty())
+        return uri;
     const QString scheme = uriScheme();
     const QString host = isIPv6() ? bracketed(address) : address;
     if (scheme == QLatin1String("ipp"))
@@ -95,7 +133,19 @@ QString NetworkDeviceList::Device::entryText() const
     const QString shown = description == QLatin1String("UNKNOWN")
         ? QCoreApplication::translate("AddPrinterWizard", "UNKNOWN")
         : description;
+    // ipp-usb serves a USB printer at the loopback address: its model is
+    // what the user knows it by.
+    if (isLoopback())
+        return QCoreApplication::translate("AddPrinterWizard", "%1 (connected by USB)")
+            .arg(shown.isEmpty() ? QCoreApplication::translate("AddPrinterWizard", "UNKNOWN") : shown);
     return QStringLiteral("%1 (%2)  %3").arg(address, protocolText(), shown);
+}
+
+void NetworkDeviceList::clear()
+{
+    m_devices.clear();
+    m_outcome = NothingFound;
+    m_problem.clear();
 }
 
 QByteArray NetworkDeviceList::command(const char *rootDir, const char *shareDir)
@@ -117,16 +167,23 @@ bool NetworkDeviceList::discover(const char *rootDir, const char *shareDir, int 
     clear();
 
     const QByteArray program = QByteArray(rootDir) + "/bin/netdiscovery";
-    if (!file_exists(program.constData()))
+    if (!file_exists(program.constData())) {
+        m_outcome = ProgramMissing;
+        m_problem = QString::fromLocal8Bit(program);
         return false;
+    }
     const QByteArray cmd = command(rootDir, shareDir);
     if (cmd.isEmpty()) {
         qWarning("The discovery command is too long: %s", program.constData());
+        m_outcome = ProgramFailed;
         return false;
     }
     PipePtr pipe(popen(cmd.constData(), "r"));
-    if (!pipe)
+    if (!pipe) {
+        m_outcome = ProgramFailed;
+        m_problem = QString::fromLocal8Bit(strerror(errno));
         return false;
+    }
 
     char line[LineMax + 2];  // the line, its line end, the terminator
     while (fgets(line, sizeof line, pipe.get())) {
@@ -139,8 +196,19 @@ bool NetworkDeviceList::discover(const char *rootDir, const char *shareDir, int 
             }
         }
         chomp(line);
-        addLine(line, cupsVersion);
+        if (strncmp(line, UnavailableMarker, strlen(UnavailableMarker)) == 0)
+            m_problem += (m_problem.isEmpty() ? "" : "\n") + QString::fromUtf8(line + strlen(UnavailableMarker));
+        else
+            addLine(line, cupsVersion);
     }
+    const int status = pclose(pipe.release());
+    if (!isEmpty())
+        m_outcome = Found;
+    else if (status != 0 || !m_problem.isEmpty())
+        m_outcome = ProgramFailed;
+    if (m_problem.isEmpty() && status != 0)
+        m_problem = WIFEXITED(status) ? QStringLiteral("exit status %1").arg(WEXITSTATUS(status))
+                                      : QStringLiteral("ended abnormally");
     return !isEmpty();
 }
 
@@ -164,7 +232,7 @@ bool NetworkDeviceList::addLine(const char *line, int cupsVersion)
     Device device;
     device.address = cut(QString::fromUtf8(address), AddressMax);
     // Older schedulers take no IPv6 address in a device URI.
-    if (cupsVersion < 2 && device.isIPv6())
+    if (!CupsVersionProbe::takesIpv6(cupsVersion) && device.isIPv6())
         return false;
     for (int i = 0; i < 4; ++i)
         device.slp[i] = slp[i] != 0;
@@ -179,6 +247,7 @@ bool NetworkDeviceList::addLine(const char *line, int cupsVersion)
         if (device.description.isEmpty())
             device.description = QStringLiteral("UNKNOWN");
     }
+    device.uri = announcedUri(line);
     m_devices.append(device);
     return true;
 }

@@ -1,6 +1,7 @@
 #include "portstep.h"
 
 #include "cupsmanager.h"
+#include "networksearchnote.h"
 #include "oemconfig.h"
 #include "printerportlistview.h"
 #include "softassert.h"
@@ -56,6 +57,8 @@ void PortStep::setUp(const QString &shareDir)
     m_pPortTypes->addButton(m_pConnectedButton, Connected);
     m_pPortTypes->addButton(m_pNetworkButton, AutoNetwork);
     m_pPortTypes->addButton(m_pOfflineButton, Manual);
+    m_pSearchNote = new NetworkSearchNote(m_wizard);
+    connect(m_pSearchNote, &NetworkSearchNote::typeAddressRequested, this, &PortStep::typeAddressInstead);
 
     m_pixmaps.load(shareDir);
     findLocalDevices();
@@ -70,7 +73,7 @@ int PortStep::portTypeId() const
 
 QString PortStep::deviceUri() const
 {
-    return m_pPortsView->selectedURI();
+    return portTypeId() == AutoNetwork ? m_networkUri : m_pPortsView->selectedURI();
 }
 
 // ---- port type page ---------------------------------------------------
@@ -88,6 +91,7 @@ void PortStep::setPortType(int id)
     m_pNetworkList->setEnabled(id == AutoNetwork);
     // A search only makes sense for the network type.
     m_pSearchNetworkButton->setEnabled(id == AutoNetwork);
+    m_pSearchNote->setActive(id == AutoNetwork);
 
     bool ok = false;
     switch (id) {
@@ -152,11 +156,13 @@ void PortStep::searchNetwork()
     }
     m_pNetworkList->clear();
     m_portAssigned = false;
+    m_networkUri.clear();
     m_pPortsView->clearSelection();
 
     m_networkDevices.discover(actx.rootDir, actx.shareDir, CUPSManager::m_CUPSManagerInstance.CupsVersion);
     for (NetworkDeviceList::size_type i = 0; i < m_networkDevices.count(); ++i)
         m_pNetworkList->addItem(m_networkDevices.at(i).entryText());
+    m_pSearchNote->setSearch(m_networkDevices);
 
     // Next and the port follow the new list.
     setPortType(m_pPortTypes->id(button));
@@ -173,6 +179,7 @@ void PortStep::networkPrinterChanged(int index)
 void PortStep::applyNetworkDevice(int index)
 {
     m_portAssigned = false;
+    m_networkUri.clear();
     if (!softAssert(NetworkDeviceList::size_type(m_pNetworkList->count()) == m_networkDevices.count(),
                     "NetworkDeviceList::size_type(NetworkList->count()) == m_NetworkDevices.count()",
                     "AddPrinterWizard", 1117)
@@ -187,9 +194,20 @@ void PortStep::applyNetworkDevice(int index)
     m_pPortsView->clearSelection();
     if (uri.isEmpty())
         return;
-    m_portAssigned = selectPort(uri);
-    if (m_portAssigned)
-        emit deviceChosen(device.description, QString());
+    // The port list shows the URI where it has an entry of its scheme.
+    selectPort(uri);
+    m_networkUri = uri;
+    m_portAssigned = true;
+    emit deviceChosen(device.description, QString());
+}
+
+void PortStep::typeAddressInstead()
+{
+    m_pOfflineButton->setChecked(true);
+    m_wizard->next();
+    selectPort(QStringLiteral("ipp://"));
+    m_pPortsView->setFocus();
+    m_pPortsView->startRenameSelectedItem();
 }
 
 // ---- port page ----------------------------------------------------------

@@ -9,6 +9,7 @@
 #include <QString>
 
 class ListViewItemEx;
+class NetworkSearchNote;
 class PrinterPortListView;
 class QButtonGroup;
 class QComboBox;
@@ -40,6 +41,9 @@ public:
     bool isPortAssigned() const { return m_portAssigned; }
     // The checked port type, -1 before setUp().
     int portTypeId() const;
+    // The device URI the queue will get: the network printer's when that
+    // type is chosen (the port list has no entry for some, ipps:// say),
+    // else the port list's selected entry's.
     QString deviceUri() const;
     const LocalDeviceList &localDevices() const { return m_localDevices; }
     const NetworkDeviceList &networkDevices() const { return m_networkDevices; }
@@ -64,6 +68,9 @@ private:
     void resetPortPage();
     void applyLocalDevice(const QString &label);
     void applyNetworkDevice(int index);
+    // From a search that found nothing to the IPP entry of the ports page,
+    // open for typing.
+    void typeAddressInstead();
     // Selects the entry of the port list that stands for uri.
     bool selectPort(const QString &uri);
 
@@ -83,12 +90,15 @@ private:
     URLPushButton *m_pConfigureNetworkButton = nullptr;
     PrinterPortListView *m_pPortsView = nullptr;
     QButtonGroup *m_pPortTypes = nullptr;
+    NetworkSearchNote *m_pSearchNote = nullptr;
 
     LocalDeviceList m_localDevices;
     NetworkDeviceList m_networkDevices;
     PixmapManager m_pixmaps;
     // The port list's selected entry is the port the queue will use.
     bool m_portAssigned = false;
+    // The chosen network printer's URI.
+    QString m_networkUri;
 };
 
 #endif

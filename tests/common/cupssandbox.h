@@ -64,6 +64,9 @@ public:
     // TCP) instead of letting anyone do anything. The socket is open to
     // every account, and so is the directory as long as its parents are.
     void setStockPolicy(const QString &systemGroup = QString());
+    // From the next start(): listening on every address, it announces its
+    // shared queues over DNS-SD (only in a network of the test's own).
+    void setBrowsing() { m_policy << QStringLiteral("--browse"); }
     QString socketPath() const;
     QString errorLog() const;
     // Points libcups of this process and child programs at this scheduler

@@ -353,11 +353,38 @@ private slots:
         QCOMPARE(TestSupport::readFile(log), symlink ? QByteArray("keep me\n") : QByteArray("written\r\n"));
     }
 
+    // The package query's answer read as a version level, through the real
+    // pipeline with an rpm that answers so; CUPS 3 counts as newer than 1.2.
+    void versionLevel_data()
+    {
+        QTest::addColumn<QString>("rpm");
+        QTest::addColumn<int>("level");
+        QTest::newRow("2.4") << u"cups-2.4.2-1.el9.x86_64"_s << 204;
+        QTest::newRow("1.1: no IPv6 yet") << u"cups-1.1.23-40"_s << 101;
+        QTest::newRow("3.0") << u"cups-3.0.1-1.fc41.x86_64"_s << 300;
+        QTest::newRow("not installed") << u"package cups is not installed"_s << -1;
+    }
+
+    void versionLevel()
+    {
+        QFETCH(QString, rpm);
+        QFETCH(int, level);
+        QTemporaryDir bin;
+        QVERIFY(TestSupport::writeFile(bin.filePath(u"rpm"_s), "#!/bin/sh\necho '" + rpm.toUtf8() + "'\n", true));
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", bin.path().toUtf8() + ':' + path);
+        const CupsVersionProbe probe(nullptr);
+        const int read = probe.value();
+        qputenv("PATH", path);
+        QCOMPARE(read, level);
+        QCOMPARE(CupsVersionProbe::takesIpv6(level), level >= 102);
+    }
+
     // The version probe falls back to the scheduler's "Server" header where
     // no package answers; the scheduler here is the installed CUPS.
     void schedulerDown()
     {
-        QCOMPARE(CUPSManager::probeServerVersion(), CUPS_VERSION_MINOR);
+        QCOMPARE(CUPSManager::probeServerVersion(), CupsVersionProbe::level(CUPS_VERSION_MAJOR, CUPS_VERSION_MINOR));
         const QString server = m_sandbox.server();
         QVERIFY(m_sandbox.stop());
         QCOMPARE(CUPSManager::probeServerVersion(), -1);

@@ -1,7 +1,11 @@
 // A line of the discovery program's output as the wizard reads it: the
-// record keeps its limits, and a URI comes exactly with a scheme.
+// record keeps its limits, and a URI comes exactly with a scheme; an
+// announced URI is one word of a printer's scheme.
+#include "cupsversionprobe.h"
 #include "fuzztarget.h"
 #include "networkdevicelist.h"
+
+#include <QRegularExpression>
 
 #include <string>
 
@@ -15,7 +19,8 @@ QW_FUZZ_TARGET
     line = line.substr(0, line.find_first_of("\r\n"));
 
     NetworkDeviceList list;
-    const int cupsVersion = data[0] % 4;
+    const int levels[] = { -1, 101, 102, 300 };
+    const int cupsVersion = levels[data[0] % 4];
     if (!list.addLine(line.c_str(), cupsVersion))
         return 0;
     const NetworkDeviceList::Device &d = list.at(0);
@@ -23,7 +28,9 @@ QW_FUZZ_TARGET
     // character (a byte that is not text becomes a replacement character).
     require(d.address.size() <= NetworkDeviceList::AddressMax
             && d.description.size() <= NetworkDeviceList::DescriptionMax);
-    require(!d.isIPv6() || cupsVersion >= 2);
+    require(!d.isIPv6() || CupsVersionProbe::takesIpv6(cupsVersion));
+    static const QRegularExpression announced(QStringLiteral("^(ipps?|socket|lpd|dnssd)://[^\\s\"]+$"));
+    require(d.uri.isEmpty() || (announced.match(d.uri).hasMatch() && d.deviceUri() == d.uri));
     const QString uri = d.deviceUri();
     require(uri.isEmpty() == d.uriScheme().isNull()
             && (uri.isEmpty() || uri.startsWith(d.uriScheme() + QLatin1String("://"))));

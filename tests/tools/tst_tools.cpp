@@ -30,6 +30,7 @@ private:
         int status;
         QStringList lines;
         QString errors;
+        QString out;
     };
 
     static Run run(const QString &avahi, const QString &snmp, const QStringList &args = {})
@@ -40,7 +41,7 @@ private:
         const TestSupport::Run r = TestSupport::run(TestPaths::binaryDir() + "/tools/netdiscovery/netdiscovery", args, env);
         QStringList lines = r.out.split('\n', Qt::SkipEmptyParts);
         lines.removeIf([](const QString &l) { return l.startsWith('#'); });
-        return { r.status, lines, r.err };
+        return { r.status, lines, r.err, r.out };
     }
 
     static TestSupport::Run printertest(const QStringList &args)
@@ -105,34 +106,45 @@ private slots:
         QTest::addColumn<QStringList>("input");
         QTest::addColumn<QStringList>("output");
 
-        const QString ipp = "=;e;IPv4;Acme\\032One;_ipp._tcp;local;h;192.0.2.20;631;\"ty=Acme One\"";
+        const QString ipp = "=;e;IPv4;Acme\\032One;_ipp._tcp;local;h;192.0.2.20;8631;\"ty=Acme One\" \"rp=ipp/one\"";
         const QString raw = "=;e;IPv4;Acme\\032One;_pdl-datastream._tcp;local;h;192.0.2.20;9100;";
         const QString lpd = "=;e;IPv4;Acme\\032One;_printer._tcp;local;h;192.0.2.20;515;";
-        QTest::newRow("three services, one line")
-            << QStringList{ "d" + raw, "d" + lpd, "d" + ipp }
-            << QStringList{ "ip: 192.0.2.20 slp: 1,1,1,1 snmp: 0,0,0 dsc: \"Acme One\"" };
+        const QString one = "ip: 192.0.2.20 slp: 1,1,1,1 snmp: 0,0,0 dsc: \"Acme One\" uri: ipp://192.0.2.20:8631/ipp/one";
+        QTest::newRow("three services, one line, the IPP one's URI")
+            << QStringList{ "d" + raw, "d" + lpd, "d" + ipp } << QStringList{ one };
         QTest::newRow("service name until ty arrives")
-            << QStringList{ "d" + raw } << QStringList{ "ip: 192.0.2.20 slp: 1,0,0,1 snmp: 0,0,0 dsc: \"Acme One\"" };
+            << QStringList{ "d" + raw }
+            << QStringList{ "ip: 192.0.2.20 slp: 1,0,0,1 snmp: 0,0,0 dsc: \"Acme One\" uri: socket://192.0.2.20:9100" };
         QTest::newRow("_printer._tcp on port 0 is no LPD")
-            << QStringList{ "d" + ipp, "d" + QString(lpd).replace(";515;", ";0;") }
-            << QStringList{ "ip: 192.0.2.20 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Acme One\"" };
-        QTest::newRow("SNMP only")
+            << QStringList{ "d" + QString(ipp).replace("_ipp.", "_ipps."), "d" + QString(lpd).replace(";515;", ";0;") }
+            << QStringList{ "ip: 192.0.2.20 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Acme One\" uri: ipps://192.0.2.20:8631/ipp/one" };
+        QTest::newRow("LPD queue and port; IPP without rp")
+            << QStringList{ "d=;e;IPv4;L;_printer._tcp;local;h;192.0.2.21;1515;\"rp=/my queue\"",
+                            "d=;e;IPv4;I;_ipp._tcp;local;h;192.0.2.21;631;" }
+            << QStringList{ "ip: 192.0.2.21 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"I\" uri: ipp://192.0.2.21:631/ipp/print",
+                            "ip: 192.0.2.21 slp: 1,0,1,0 snmp: 0,0,0 dsc: \"L\" uri: lpd://192.0.2.21:1515/my%20queue" };
+        QTest::newRow("a server's queues of one model: by instance name")
+            << QStringList{ "d=;e;IPv4;Front\\032@\\032srv;_ipp._tcp;local;h;192.0.2.22;631;\"ty=M\" \"rp=printers/front\"",
+                            "d=;e;IPv4;Back\\032@\\032srv;_ipp._tcp;local;h;192.0.2.22;631;\"ty=M\" \"rp=printers/back\"" }
+            << QStringList{ "ip: 192.0.2.22 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Back @ srv\" uri: ipp://192.0.2.22:631/printers/back",
+                            "ip: 192.0.2.22 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Front @ srv\" uri: ipp://192.0.2.22:631/printers/front" };
+        QTest::newRow("SNMP only: no URI")
             << QStringList{ "snetwork socket://192.0.2.30 \"Globex Jet\" \"x\" \"MFG:G;\" \"\"" }
             << QStringList{ "ip: 192.0.2.30 slp: 0,0,0,0 snmp: 1,1,1 dsc: \"Globex Jet\"" };
-        QTest::newRow("SNMP and DNS-SD merged, DNS-SD describes")
+        QTest::newRow("SNMP first, then DNS-SD: one printer, the record's URI")
             << QStringList{ "snetwork socket://192.0.2.20 \"Model\" \"x\" \"\" \"\"", "d" + ipp }
-            << QStringList{ "ip: 192.0.2.20 slp: 1,1,0,0 snmp: 1,1,0 dsc: \"Acme One\"" };
+            << QStringList{ QString(one).replace("1,1,1,1 snmp: 0,0,0", "1,1,0,0 snmp: 1,1,0") };
         QTest::newRow("numeric order, IPv4 before IPv6")
             << QStringList{ "d=;e;IPv6;b;_ipp._tcp;local;h;2001:db8::1;631;",
                             "d=;e;IPv4;c;_ipp._tcp;local;h;192.0.2.100;631;",
-                            "d=;e;IPv4;a;_ipp._tcp;local;h;192.0.2.9;631;" }
-            << QStringList{ "ip: 192.0.2.9 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"a\"",
-                            "ip: 192.0.2.100 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"c\"",
-                            "ip: 2001:db8::1 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"b\"" };
+                            "d=;e;IPv4;a;_ipp._tcp;local;h;127.0.0.1;60000;" }
+            << QStringList{ "ip: 127.0.0.1 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"a\" uri: ipp://127.0.0.1:60000/ipp/print",
+                            "ip: 192.0.2.100 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"c\" uri: ipp://192.0.2.100:631/ipp/print",
+                            "ip: 2001:db8::1 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"b\" uri: ipp://[2001:db8::1]:631/ipp/print" };
         QTest::newRow("IPv6 spellings are one address")
-            << QStringList{ "d=;e;IPv6;b;_ipp._tcp;local;h;2001:DB8:0::1;631;",
+            << QStringList{ "d=;e;IPv6;b;_ipp._tcp;local;h;2001:DB8:0::1;631;\"rp=\\\"x\\\"\"",
                             "d=;e;IPv6;b;_printer._tcp;local;h;2001:db8::1;515;" }
-            << QStringList{ "ip: 2001:db8::1 slp: 1,1,1,0 snmp: 0,0,0 dsc: \"b\"" };
+            << QStringList{ "ip: 2001:db8::1 slp: 1,1,1,0 snmp: 0,0,0 dsc: \"b\" uri: ipp://[2001:db8::1]:631/%22x%22" };
         QTest::newRow("link-local left out")
             << QStringList{ "d=;e;IPv6;b;_ipp._tcp;local;h;fe80::1;631;", "d=;e;IPv4;b;_ipp._tcp;local;h;169.254.1.1;631;" }
             << QStringList{};
@@ -189,9 +201,9 @@ private slots:
         const QString snmp = engine("snmp");
         Run r = run(avahi, snmp, { "-c", "secret" });
         QCOMPARE(r.status, 0);
-        QCOMPARE(r.lines, (QStringList{ "ip: 192.0.2.20 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Acme 'One'\"",
+        QCOMPARE(r.lines, (QStringList{ "ip: 192.0.2.20 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Acme 'One'\" uri: ipp://192.0.2.20:631/ipp/print",
                                         "ip: 192.0.2.30 slp: 0,0,0,0 snmp: 1,1,0 dsc: \"Globex Jet\"",
-                                        "ip: 2001:db8::20 slp: 1,0,0,1 snmp: 0,0,0 dsc: \"Acme One\"" }));
+                                        "ip: 2001:db8::20 slp: 1,0,0,1 snmp: 0,0,0 dsc: \"Acme One\" uri: socket://[2001:db8::20]:9100" }));
         QCOMPARE(r.errors, QString());
 
         // Without the community the stand-in answers nothing.
@@ -205,8 +217,10 @@ private slots:
         QVERIFY(r.lines.isEmpty());
         QVERIFY2(r.errors.contains("DNS-SD: Failed to create client object: Daemon not running"), qPrintable(r.errors));
         QVERIFY2(r.errors.contains("SNMP: " + m_dir.filePath("no-such-backend") + " not found"), qPrintable(r.errors));
-        // One line per reason, not one per service type.
+        // One line per reason, not one per service type; the wizard reads it too.
         QCOMPARE(r.errors.count("DNS-SD"), 1);
+        QVERIFY2(r.out.contains("\n# unavailable: DNS-SD: Failed to create client object: Daemon not running\n"),
+                 qPrintable(r.out));
 
         r = run(m_dir.filePath("no-such-avahi"), "none");
         QVERIFY2(r.errors.contains("could not be started"), qPrintable(r.errors));
@@ -219,7 +233,7 @@ private slots:
         const QString slow = engine("slow");
         Run r = run(slow, slow, { "-t", "1" });
         QCOMPARE(r.status, 0);
-        QCOMPARE(r.lines, QStringList{ "ip: 192.0.2.40 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Slow\"" });
+        QCOMPARE(r.lines, QStringList{ "ip: 192.0.2.40 slp: 1,1,0,0 snmp: 0,0,0 dsc: \"Slow\" uri: ipp://192.0.2.40:631/ipp/print" });
         QVERIFY2(r.errors.contains("no complete answer within 1000 ms"), qPrintable(r.errors));
     }
 

@@ -57,7 +57,7 @@ class TestWidgets : public QObject
 
 private slots:
     // A CUPS that takes IPv6 addresses, whatever this machine runs.
-    void initTestCase() { CUPSManager::m_CUPSManagerInstance.CupsVersion = 4; }
+    void initTestCase() { CUPSManager::m_CUPSManagerInstance.CupsVersion = 204; }
     void init() { TestSupport::failOnWarnings(); }
     void cleanup() { BrowserLauncher::setCandidates({}); }
 
@@ -160,11 +160,11 @@ private slots:
         view.setMfpMode(false);
         QCOMPARE(shownGroups(view), (QStringList{"Parallel/native", "USB/native", "Network/", "File/"}));
 
-        CUPSManager::m_CUPSManagerInstance.CupsVersion = 1;  // no IPv6 in device URIs yet
+        CUPSManager::m_CUPSManagerInstance.CupsVersion = 101;  // CUPS 1.1: no IPv6 in device URIs yet
         PrinterPortListView old;
         QVERIFY(!static_cast<UriValidator *>(static_cast<FormattedListItem *>(entry(old, Network, 3))->validator(0))
                      ->ipv6Allowed());
-        CUPSManager::m_CUPSManagerInstance.CupsVersion = 4;
+        CUPSManager::m_CUPSManagerInstance.CupsVersion = 204;
     }
 
     // Selecting shows the entry's group and gives back the URI of the entry;

@@ -7,6 +7,7 @@
 #include "wizardfixture.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,16 +20,19 @@ using W = AddPrinterWizard;
 
 namespace {
 
-// A discovery program that notes its arguments in bin/args and prints the
-// file "output" of the package root.
+// A discovery program that notes its arguments in bin/args, prints the
+// file "output" of the package root and exits with the number of its line
+// "# status N".
 const QByteArray FakeDiscovery = "#!/bin/sh\n"
                                  "here=$(dirname \"$0\")\n"
                                  "for a in \"$@\"; do printf '[%s]' \"$a\"; done > \"$here/args\"\n"
-                                 "cat \"$here/../output\"\n";
+                                 "cat \"$here/../output\"\n"
+                                 "exit $(sed -n 's/^# status //p' \"$here/../output\")\n";
 
-QByteArray record(const char *address, const char *slp, const QByteArray &description = "Office")
+QByteArray record(const char *address, const char *slp, const QByteArray &description = "Office",
+                  const QByteArray &tail = "")
 {
-    return QByteArray("ip: ") + address + " slp: " + slp + " snmp: 1,0,1 dsc: \"" + description + "\"\n";
+    return QByteArray("ip: ") + address + " slp: " + slp + " snmp: 1,0,1 dsc: \"" + description + "\"" + tail + "\n";
 }
 
 QByteArray arguments(const WizardFixture &f)
@@ -271,8 +275,11 @@ private slots:
         QTest::addColumn<int>("cupsVersion");
         QTest::addColumn<QString>("entry");
         QTest::addColumn<QString>("uri");
+        QTest::addColumn<QString>("note");
         const auto row = [](const char *tag, const QByteArray &output, const QString &entry, const QString &uri,
-                            int cupsVersion = 4) { QTest::newRow(tag) << output << cupsVersion << entry << uri; };
+                            int cupsVersion = 204, const QString &note = QString()) {
+            QTest::newRow(tag) << output << cupsVersion << entry << uri << note;
+        };
 
         row("all services: IPP first", record("10.0.0.5", "1,1,1,1"), "10.0.0.5 (IPP,socket,LPD)  Office",
             "ipp://10.0.0.5/ipp/print");
@@ -281,7 +288,16 @@ private slots:
         row("answered, nothing offered", record("10.0.0.8", "1,0,0,0"), "10.0.0.8 ()  Office", "");
         row("IPv6: socket", record("fe80::1", "1,1,0,0"), "fe80::1 (IPP)  Office", "socket://[fe80::1]:9100");
         row("IPv6 before version 2", record("fe80::1", "1,1,0,0") + record("10.0.0.10", "1,0,0,1"),
-            "10.0.0.10 (socket)  Office", "socket://10.0.0.10:9100", 1);
+            "10.0.0.10 (socket)  Office", "socket://10.0.0.10:9100", 101);
+        row("IPv6 with CUPS 3", record("fe80::1", "1,1,0,0"), "fe80::1 (IPP)  Office", "socket://[fe80::1]:9100", 300);
+        row("the announced URI", record("10.0.0.20", "1,1,0,0", "Office", " uri: ipps://10.0.0.20:8631/printers/a%20b"),
+            "10.0.0.20 (IPP)  Office", "ipps://10.0.0.20:8631/printers/a%20b");
+        row("a USB printer served at the loopback address",
+            record("127.0.0.1", "1,1,0,0", "Acme Jet 9", " uri: ipp://127.0.0.1:60000/ipp/print"),
+            "Acme Jet 9 (connected by USB)", "ipp://127.0.0.1:60000/ipp/print");
+        row("no printer's URI, or inside the description: read as before",
+            record("10.0.0.21", "1,0,0,1", "x\" uri: ipp://evil/", " uri: file:/etc/passwd"),
+            "10.0.0.21 (socket)  x\" uri: ipp://evil/", "socket://10.0.0.21:9100");
         row("empty description", record("10.0.0.11", "0,0,0,0", ""), "10.0.0.11 (IPP)  UNKNOWN",
             "ipp://10.0.0.11/ipp/print");
         row("long address and description cut", record(QByteArray(50, 'a').constData(), "1,0,0,1", QByteArray(200, 'd')),
@@ -293,8 +309,15 @@ private slots:
         noise += "ip: 10.0.0.5\n" + QByteArray(1030, 'x') + record("10.0.0.15", "0,0,0,0");
         row("comments, short lines, garbage, the rest of an overlong line", noise + record("10.0.0.14", "1,0,0,1"),
             "10.0.0.14 (socket)  Office", "socket://10.0.0.14:9100");
-        row("nothing found", "", "", "");
-        row("no program", QByteArray(), "", "");
+        const QString checks = "Check that the printer is switched on";
+        row("nothing found", "", "", "", 204, "No network printer answered. " + checks);
+        row("no program", QByteArray(), "", "", 204, "The network search is not installed (");
+        row("a part of the search could not run",
+            "# unavailable: DNS-SD: Daemon not running\n# unavailable: SNMP: x not found\n", "", "", 204,
+            "The network search failed: DNS-SD: Daemon not running\nSNMP: x not found. " + checks);
+        row("the program failed", "# status 3\n", "", "", 204, "The network search failed: exit status 3. ");
+        row("found despite a part that could not run", "# unavailable: SNMP: x\n" + record("10.0.0.23", "0,0,0,0"),
+            "10.0.0.23 (IPP)  Office", "ipp://10.0.0.23/ipp/print");
     }
 
     // The first record listed is the port. Without a community the program
@@ -305,6 +328,7 @@ private slots:
         QFETCH(int, cupsVersion);
         QFETCH(QString, entry);
         QFETCH(QString, uri);
+        QFETCH(QString, note);
 
         CUPSManager::m_CUPSManagerInstance.CupsVersion = cupsVersion;
         WizardFixture f;
@@ -312,9 +336,23 @@ private slots:
         QCOMPARE(entries(f), entry.isEmpty() ? QStringList() : QStringList{ entry });
         QCOMPARE(f.child<QComboBox>("NetworkList")->isEnabled(), !entry.isEmpty());
         QCOMPARE(f.wizard()->isPortAssigned(), !uri.isEmpty());
-        QCOMPARE(f.child<PrinterPortListView>("PortsView")->selectedURI(), uri);
+        QCOMPARE(f.wizard()->portURI(), uri);
         QCOMPARE(f.nextEnabled(), !uri.isEmpty());
         QCOMPARE(arguments(f), QByteArray(output.isNull() ? "none" : ""));
+        auto *label = f.child<QLabel>("NetworkSearchLabel");
+        QVERIFY2(label->text().startsWith(note) && label->isVisible() == !note.isEmpty(), qPrintable(label->text()));
+        QCOMPARE(f.child<QPushButton>("TypeAddressButton")->isVisible(), !note.isEmpty());
+        if (note.isEmpty())
+            return;
+        // The note is the network type's; typing the address opens the IPP
+        // entry of the ports page for it.
+        f.clickRadio("OfflineButton");
+        QVERIFY(!label->isVisible());
+        f.clickRadio("NetworkButton");
+        QTest::mouseClick(f.child<QPushButton>("TypeAddressButton"), Qt::LeftButton);
+        QCOMPARE(f.wizard()->currentId(), int(W::PortsPage));
+        auto *editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+        QVERIFY(editor && editor->text() == "ipp://");
     }
 
     // Another printer of the list becomes the port, and a search anew

@@ -69,7 +69,9 @@ bool DnsSdService::parse(const QString &line, DnsSdService *out)
     if (s.address.isEmpty() || !ok)
         return false;
     // The TXT strings may hold ';' themselves.
-    s.productName = txtValue(f.mid(9).join(QLatin1Char(';')), QStringLiteral("ty"));
+    const QString txt = f.mid(9).join(QLatin1Char(';'));
+    s.productName = txtValue(txt, QStringLiteral("ty"));
+    s.resource = txtValue(txt, QStringLiteral("rp"));
     *out = s;
     return true;
 }

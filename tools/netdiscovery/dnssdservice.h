@@ -12,6 +12,7 @@ struct DnsSdService
     QString address;
     int port = 0;
     QString productName; // TXT "ty"
+    QString resource;    // TXT "rp"
 
     // False for lines that are not a resolved service.
     static bool parse(const QString &line, DnsSdService *out);

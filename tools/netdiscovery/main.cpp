@@ -1,8 +1,11 @@
 // netdiscovery: lists the printers on the local network for the wizard, one
-// line per address:
-//   ip: ADDRESS slp: S1,S2,S3,S4 snmp: N1,N2,N3 dsc: "DESCRIPTION"
+// line per printer (a DNS-SD service instance, or an address only SNMP knows):
+//   ip: ADDRESS slp: S1,S2,S3,S4 snmp: N1,N2,N3 dsc: "DESCRIPTION" uri: URI
 // S1 answered by DNS-SD, S2 IPP, S3 LPD, S4 raw socket offered;
-// N1 answered by SNMP, N2 SNMP names a raw socket port, N3 a device ID known.
+// N1 answered by SNMP, N2 SNMP names a raw socket port, N3 a device ID known;
+// URI is the device URI the printer announced (left out without one).
+// An engine that could not be used is named on a comment line
+// "# unavailable: REASON", and on standard error.
 
 #include "discoveryrun.h"
 
@@ -59,8 +62,10 @@ int main(int argc, char **argv)
     printf("# netdiscovery: %d printer(s)\n", run.printers().count());
     for (const QString &line : run.printers().lines())
         printf("%s\n", line.toUtf8().constData());
-    fflush(stdout);
-    for (const QString &why : run.unavailable())
+    for (const QString &why : run.unavailable()) {
+        printf("# unavailable: %s\n", why.simplified().toUtf8().constData());
         fprintf(stderr, "netdiscovery: %s\n", why.toLocal8Bit().constData());
+    }
+    fflush(stdout);
     return 0;
 }

@@ -9,8 +9,10 @@
 struct DnsSdService;
 struct SnmpDevice;
 
-// The printers found so far, one per address, every engine's answer merged
-// into it. Lines come out IPv4 first, in numeric order.
+// The printers found so far: one per DNS-SD service instance and address
+// (a print server's queues are printers of their own), every service of an
+// instance merged into it; SNMP answers join what DNS-SD found at their
+// address, or stand alone. Lines come out IPv4 first, in numeric order.
 class NetworkPrinterList
 {
 public:
@@ -24,7 +26,7 @@ public:
     static bool isUsableAddress(const QString &address);
 
 private:
-    NetworkPrinter &printerFor(const QString &address);
+    NetworkPrinter &printerFor(const QString &address, const QString &instance);
 
     QList<NetworkPrinter> m_printers;
 };
