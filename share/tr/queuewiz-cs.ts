@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>Hledá se tisková služba...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (připojeno přes USB)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>&amp;Možnosti ovladače...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>&amp;Zadat adresu ručně</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Použijte tuto adresu:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 nesmí měnit tiskárny tohoto počítače. Jméno a heslo správce:</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>Zkontrolujte, zda je tiskárna zapnutá a připojená ke stejné síti jako tento počítač a zda žádný firewall neblokuje multicast DNS (port UDP 5353).</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>Žádná síťová tiskárna neodpověděla.</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>Vyhledávání v síti není nainstalováno (chybí %1).</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>Vyhledávání v síti selhalo: %1.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>důvod nebyl uveden</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>Der Druckdienst wird gesucht...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (über USB angeschlossen)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>Treiber&amp;optionen...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>Adresse stattdessen &amp;eingeben</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Verwenden Sie diese Adresse:
     <message>
         <source>The printing service at %1 does not answer</source>
         <translation>Der Druckdienst unter %1 antwortet nicht</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>Prüfen Sie, ob der Drucker eingeschaltet und mit demselben Netzwerk wie dieser Computer verbunden ist und ob keine Firewall Multicast-DNS (UDP-Port 5353) blockiert.</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>Kein Netzwerkdrucker hat geantwortet.</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>Die Netzwerksuche ist nicht installiert (%1 fehlt).</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>Die Netzwerksuche ist fehlgeschlagen: %1.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>kein Grund angegeben</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>Buscando el servicio de impresión...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (conectada por USB)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>&amp;Opciones del controlador...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>&amp;Escribir la dirección en su lugar</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Use esta dirección:
     <message>
         <source>The printing service at %1 does not answer</source>
         <translation>El servicio de impresión en %1 no responde</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>Compruebe que la impresora está encendida y conectada a la misma red que este equipo, y que ningún cortafuegos bloquea el DNS multidifusión (puerto UDP 5353).</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>Ninguna impresora de red respondió.</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>La búsqueda en la red no está instalada (falta %1).</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>La búsqueda en la red falló: %1.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>no se indicó ningún motivo</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>Recherche du service d&apos;impression...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (connectée par USB)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>&amp;Options du pilote...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>&amp;Taper l&apos;adresse à la place</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Utilisez cette adresse&#xa0;:
     <message>
         <source>The printing service at %1 does not answer</source>
         <translation>Le service d&apos;impression à l&apos;adresse %1 ne répond pas</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>Vérifiez que l&apos;imprimante est allumée et connectée au même réseau que cet ordinateur, et qu&apos;aucun pare-feu ne bloque le DNS multidiffusion (port UDP 5353).</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>Aucune imprimante réseau n&apos;a répondu.</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>La recherche réseau n&apos;est pas installée (%1 est manquant).</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>La recherche réseau a échoué : %1.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>aucune raison indiquée</translation>
     </message>
 </context>
 <context>

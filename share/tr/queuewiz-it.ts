@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>Ricerca del servizio di stampa in corso...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (collegata via USB)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>&amp;Opzioni del driver...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>&amp;Digita invece l&apos;indirizzo</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Usare questo indirizzo:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 non può modificare le stampanti di questo computer. Nome e password di un amministratore:</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>Controlla che la stampante sia accesa e collegata alla stessa rete di questo computer, e che nessun firewall blocchi il DNS multicast (porta UDP 5353).</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>Nessuna stampante di rete ha risposto.</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>La ricerca in rete non è installata (manca %1).</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>La ricerca in rete non è riuscita: %1.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>nessun motivo indicato</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>印刷サービスを探しています...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (USB 接続)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>ドライバーのオプション(&amp;O)...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>代わりにアドレスを入力(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Use that address:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 はこのコンピューターのプリンターを変更できません。管理者の名前とパスワード:</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>プリンターの電源が入っていて、このコンピューターと同じネットワークに接続されていること、またファイアウォールがマルチキャスト DNS (UDP ポート 5353) をブロックしていないことを確認してください。</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>応答したネットワークプリンターはありません。</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>ネットワーク検索がインストールされていません (%1 がありません)。</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>ネットワーク検索に失敗しました: %1。</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>理由は示されていません</translation>
     </message>
 </context>
 <context>

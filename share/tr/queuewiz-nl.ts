@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>Afdrukservice wordt gezocht...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (aangesloten via USB)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>Stuurprogramma&amp;opties...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>In plaats daarvan het &amp;adres typen</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Gebruik dit adres:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 mag de printers van deze computer niet wijzigen. Naam en wachtwoord van een beheerder:</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>Controleer of de printer aanstaat en met hetzelfde netwerk is verbonden als deze computer, en of geen firewall multicast-DNS (UDP-poort 5353) blokkeert.</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>Geen enkele netwerkprinter heeft geantwoord.</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>Het zoeken in het netwerk is niet geïnstalleerd (%1 ontbreekt).</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>Zoeken in het netwerk is mislukt: %1.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>geen reden opgegeven</translation>
     </message>
 </context>
 <context>

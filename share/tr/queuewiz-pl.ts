@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>Wyszukiwanie usługi drukowania...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (podłączona przez USB)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>&amp;Opcje sterownika...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>&amp;Wpisz adres ręcznie</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Proszę użyć tego adresu:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 nie może zmieniać drukarek tego komputera. Nazwa i hasło administratora:</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>Sprawdź, czy drukarka jest włączona i podłączona do tej samej sieci co ten komputer oraz czy żadna zapora sieciowa nie blokuje multicast DNS (port UDP 5353).</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>Żadna drukarka sieciowa nie odpowiedziała.</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>Wyszukiwanie w sieci nie jest zainstalowane (brak %1).</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>Wyszukiwanie w sieci nie powiodło się: %1.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>nie podano przyczyny</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>Procurando o serviço de impressão...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (conectada via USB)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>Opções do &amp;driver...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>&amp;Digitar o endereço</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Use este endereço:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 não pode alterar as impressoras deste computador. Nome e senha de um administrador:</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>Verifique se a impressora está ligada e conectada à mesma rede que este computador e se nenhum firewall bloqueia o DNS multicast (porta UDP 5353).</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>Nenhuma impressora de rede respondeu.</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>A busca na rede não está instalada (falta %1).</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>A busca na rede falhou: %1.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>nenhum motivo informado</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>Поиск службы печати...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (подключён по USB)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>&amp;Параметры драйвера...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>&amp;Ввести адрес вручную</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Use that address:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 не может изменять принтеры этого компьютера. Имя и пароль администратора:</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>Проверьте, что принтер включён и подключён к той же сети, что и этот компьютер, и что брандмауэр не блокирует multicast DNS (UDP-порт 5353).</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>Ни один сетевой принтер не ответил.</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>Поиск в сети не установлен (отсутствует %1).</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>Не удалось выполнить поиск в сети: %1.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>причина не указана</translation>
     </message>
 </context>
 <context>

@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>Letar efter utskriftstjänsten...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1 (ansluten via USB)</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>Drivrutins&amp;alternativ...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>Skriv in &amp;adressen i stället</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Använd den här adressen:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 får inte ändra skrivarna på den här datorn. Namn och lösenord för en administratör:</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>Kontrollera att skrivaren är påslagen och ansluten till samma nätverk som den här datorn, och att ingen brandvägg blockerar multicast-DNS (UDP-port 5353).</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>Ingen nätverksskrivare svarade.</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>Nätverkssökningen är inte installerad (%1 saknas).</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>Nätverkssökningen misslyckades: %1.</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>ingen orsak angiven</translation>
     </message>
 </context>
 <context>

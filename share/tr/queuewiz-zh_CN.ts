@@ -81,6 +81,10 @@
         <source>Looking for the printing service...</source>
         <translation>正在查找打印服务...</translation>
     </message>
+    <message>
+        <source>%1 (connected by USB)</source>
+        <translation>%1（通过 USB 连接）</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -244,6 +248,10 @@
         <source>Driver &amp;Options...</source>
         <translation>驱动程序选项(&amp;O)...</translation>
     </message>
+    <message>
+        <source>&amp;Type the Address Instead</source>
+        <translation>改为输入地址(&amp;T)</translation>
+    </message>
 </context>
 <context>
     <name>BrowserLauncher</name>
@@ -308,6 +316,29 @@ Use that address:
     <message>
         <source>%1 may not change the printers of this computer. Name and password of an administrator:</source>
         <translation>%1 无权更改这台计算机的打印机。管理员的用户名和密码：</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSearchNote</name>
+    <message>
+        <source>Check that the printer is switched on and connected to the same network as this computer, and that no firewall blocks multicast DNS (UDP port 5353).</source>
+        <translation>请检查打印机是否已开启并与本计算机连接到同一网络，以及是否有防火墙阻止了多播 DNS（UDP 端口 5353）。</translation>
+    </message>
+    <message>
+        <source>No network printer answered.</source>
+        <translation>没有网络打印机响应。</translation>
+    </message>
+    <message>
+        <source>The network search is not installed (%1 is missing).</source>
+        <translation>未安装网络搜索（缺少 %1）。</translation>
+    </message>
+    <message>
+        <source>The network search failed: %1.</source>
+        <translation>网络搜索失败：%1。</translation>
+    </message>
+    <message>
+        <source>no reason given</source>
+        <translation>未给出原因</translation>
     </message>
 </context>
 <context>
