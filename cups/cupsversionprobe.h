@@ -5,10 +5,10 @@
 
 // The minor version of the installed CUPS (1 for 1.1.x, 4 for 2.4.x), -1
 // when unknown. The package query is a shell pipeline that takes a good
-// part of a second: where it can answer at all (rpm, or dpkg knowing the
-// old package name) it starts with this object and is read when the number
-// is first used, so that start-up goes on meanwhile. When no package
-// answers, the fallback (the running scheduler) is asked then.
+// part of a second: where it can answer at all (rpm systems) it starts with
+// this object and is read when the number is first used, so that start-up
+// goes on meanwhile. When no package answers, the fallback (the running
+// scheduler) is asked then.
 //
 // Used like the int it stands for; assigning a number ends the probe.
 class CupsVersionProbe
