@@ -94,7 +94,7 @@ bool QueueAdmin::disablePrinter(const QString &name)
 }
 
 bool QueueAdmin::updateClasses(QMap<QString, CUPSClass> &classes, const QString &printerName,
-                                const QString &newName)
+                               const QString &newName)
 {
     for (CUPSClass &cls : classes) {
         QStringList printerNames = cls.MemberNames();
