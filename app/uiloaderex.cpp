@@ -34,48 +34,62 @@ QWidget *UiLoaderEx::loadAs(QIODevice *device, const QString &className, QWidget
     m_loadError.clear();
     if (className.isEmpty())
         return load(device, parent);
+    const Form form = readForm(device, className);
+    return form.isNull() ? nullptr : build(form, parent);
+}
 
-    QDomDocument doc;
+UiLoaderEx::Form UiLoaderEx::readForm(QIODevice *device, const QString &className)
+{
+    m_loadError.clear();
+    Form form;
     QString error;
     int line = 0;
     int column = 0;
-    if (!doc.setContent(device, &error, &line, &column)) {
+    if (!form.doc.setContent(device, &error, &line, &column)) {
         m_loadError = QStringLiteral("line %1, column %2: %3").arg(line).arg(column).arg(error);
-        return nullptr;
+        return Form();
     }
 
     QDomElement widget;
-    for (QDomNode n = doc.documentElement().firstChild(); !n.isNull(); n = n.nextSibling()) {
+    for (QDomNode n = form.doc.documentElement().firstChild(); !n.isNull(); n = n.nextSibling()) {
         if (n.isElement() && n.nodeName() == QLatin1String("widget")) {
             widget = n.toElement();
             break;
         }
     }
-    const QString fileClass = widget.attribute(QStringLiteral("class"));
-    if (fileClass.isEmpty()) {
+    form.formClass = widget.attribute(QStringLiteral("class"));
+    if (form.formClass.isEmpty()) {
         qWarning("can't find 'class' attribute");
-        return nullptr;
+        return Form();
     }
     widget.setAttribute(QStringLiteral("class"), className);
+    form.className = className;
 
+    QBuffer buffer(&form.xml);
+    buffer.open(QIODevice::WriteOnly);
+    QTextStream stream(&buffer);
+    form.doc.save(stream, 1);
+    stream.flush();
+    return form;
+}
+
+QWidget *UiLoaderEx::build(const Form &form, QWidget *parent)
+{
     QBuffer buffer;
-    buffer.open(QIODevice::ReadWrite);
-    {
-        QTextStream stream(&buffer);
-        doc.save(stream, 1);
-    }
-    buffer.seek(0);
+    buffer.setData(form.xml);
+    buffer.open(QIODevice::ReadOnly);
     QWidget *w = load(&buffer, parent);
     if (!w)
         return nullptr;
-    sharpenPictures(w, doc);
+    sharpenPictures(w, form.doc);
 
     const QString created = QString::fromLatin1(w->metaObject()->className());
-    softAssert(created == className, "w->qtx_className() == className", "uiloaderex", 68);
+    softAssert(created == form.className, "w->qtx_className() == className", "uiloaderex", 68);
 
-    if (standsFor(w, fileClass) && created == className)
+    if (standsFor(w, form.formClass) && created == form.className)
         return w;
-    qWarning("wrong className class <%s> is NOT inherits <%s>", qPrintable(className), qPrintable(fileClass));
+    qWarning("wrong className class <%s> is NOT inherits <%s>", qPrintable(form.className),
+             qPrintable(form.formClass));
     delete w;
     return nullptr;
 }

@@ -3,9 +3,10 @@
 
 #include "uiloader.h"
 
+#include <QByteArray>
+#include <QDomDocument>
 #include <QWidget>
 
-class QDomDocument;
 class QIODevice;
 
 // Loads a form as a given program class: the top-level class of the form is
@@ -22,6 +23,22 @@ public:
     QWidget *loadAs(const QString &fileName, const QString &className, QWidget *parent = nullptr);
     // An empty className loads the form as it stands.
     QWidget *loadAs(QIODevice *device, const QString &className, QWidget *parent = nullptr);
+
+    // A form read once and rewritten for a program class, to be built any
+    // number of times.
+    struct Form
+    {
+        QDomDocument doc;
+        QByteArray xml;
+        QString formClass;
+        QString className;
+        bool isNull() const { return xml.isEmpty(); }
+    };
+    // Reads the form for className; a null form when it can't be used
+    // (loadError() says why when the XML is broken).
+    Form readForm(QIODevice *device, const QString &className);
+    // A new widget from form, or nothing when it is not of the class.
+    QWidget *build(const Form &form, QWidget *parent = nullptr);
 
     // Why the last loadAs() found no usable form file: the file and what
     // is wrong with it (its XML error and where); empty when it was read.

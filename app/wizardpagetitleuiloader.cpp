@@ -2,6 +2,9 @@
 
 #include "wizardpagetitle.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 WizardPageTitleUiLoader::WizardPageTitleUiLoader(QObject *parent)
     : UiLoaderEx(parent)
 {
@@ -16,7 +19,15 @@ QWidget *WizardPageTitleUiLoader::createWidget(const QString &className, QWidget
 
 WizardPageTitle *WizardPageTitleUiLoader::loadTitle(const QString &fileName, QWidget *parent)
 {
-    return setupAs<WizardPageTitle>(loadAs(fileName, QStringLiteral("WizardPageTitle"), parent));
+    const QFileInfo info(fileName);
+    if (fileName != m_formFile || info.lastModified() != m_formModified || info.size() != m_formSize) {
+        m_formFile = fileName;
+        m_formModified = info.lastModified();
+        m_formSize = info.size();
+        QFile file(fileName);
+        m_form = file.open(QIODevice::ReadOnly) ? readForm(&file, QStringLiteral("WizardPageTitle")) : Form();
+    }
+    return m_form.isNull() ? nullptr : setupAs<WizardPageTitle>(build(m_form, parent));
 }
 
 // Lives as long as the process: every title of every form is loaded by it.

@@ -11,16 +11,7 @@ endfunction()
 # needs (e.g. "cups" for the shared sandbox scheduler).
 function(qw_test name)
   cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBS;FIXTURES;ENV;LABELS;RESOURCE_LOCK" ${ARGN})
-  # The shared fixtures live in tests/common and its libraries; a source list
-  # that still names their files gets the library instead.
-  set(sources ${ARG_SOURCES})
-  list(FILTER sources EXCLUDE REGEX "(^|/)fakemachine\\.cpp$")
-  list(FILTER ARG_SOURCES INCLUDE REGEX "(^|/)wizardfixture\\.cpp$")
-  if(ARG_SOURCES)
-    list(FILTER sources EXCLUDE REGEX "(^|/)wizardfixture\\.cpp$")
-    list(APPEND ARG_LIBS qw_wizardfixture)
-  endif()
-  add_executable(${name} ${sources})
+  add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE Qt6::Test qw_testsupport ${ARG_LIBS})
   add_test(NAME ${name} COMMAND ${name})
   # libcups keeps the destination list in CUPS_SERVERROOT (root) or in

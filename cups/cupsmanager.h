@@ -85,7 +85,8 @@ public:
     // Reject-Jobs and Pause-Printer; the second only after the first.
     bool disablePrinter(const QString &name);
     // Disables the printer, drops its destination, takes it out of every
-    // class, then deletes it.
+    // class, then deletes it. Classes the scheduler refuses to list are left
+    // to it: it drops a deleted printer from them itself.
     bool deletePrinter(const QString &name);
     // Drops the class's destination, then deletes it.
     bool deleteClass(const QString &name);
@@ -103,7 +104,8 @@ public:
     // The queues whose printer-type bits under mask equal type (0 and 0: all)
     // of the package's vendor.
     bool listVendorPrinters(QMap<QString, CUPSPrinter> &printers, int type, int mask);
-    // Every class with its members, keyed by name.
+    // Every class with its members, keyed by name; empty and true when there
+    // is none, false on any other error status.
     bool listClasses(QMap<QString, CUPSClass> &classes);
     // Fills printer from the scheduler; false when there is no such queue.
     bool findPrinter(const QString &name, CUPSPrinter &printer);
@@ -147,6 +149,10 @@ public:
     static int probeServerVersion();
 
 private:
+    // The operations by concern; they send through this object.
+    friend class QueueAdmin;
+    friend class QueueListing;
+
     // Why the last request sent through send() got no answer; empty when
     // one came.
     QString m_lastError;
@@ -156,14 +162,6 @@ private:
     bool sendChecked(IPPRequest &request, const char *resource = nullptr);
     // send() that also fails on an error status other than "not found".
     bool sendListing(IPPRequest &request);
-    bool sendPlain(int operation, const QString &printerName);
-    bool setPPDName(const QByteArray &uri, const QString &ppdName);
-    bool fetchPrinters(QMap<QString, CUPSPrinter> &printers, int type, int mask, const QString &filter);
-    // Fills in what listing derives rather than reads.
-    static void completeListed(CUPSPrinter &printer);
-    // Re-sends every class that lists printerName, with the name replaced
-    // by newName, or dropped when newName is empty.
-    bool updateClasses(const QString &printerName, const QString &newName);
 };
 
 #endif

@@ -1,7 +1,6 @@
 #include "cupsversionprobe.h"
 
-#include <QByteArrayView>
-#include <QFile>
+#include <QByteArrayList>
 #include <QRegularExpression>
 #include <QString>
 
@@ -17,18 +16,18 @@ extern char **environ;
 
 namespace {
 
-// The first two dot-separated fields: the major number ends the first
-// ("cups-2", "Version: 1"), the minor number is the second.
-const char kPipeline[] = "((which rpm >/dev/null && rpm -q cups) || (which dpkg >/dev/null && dpkg -p "
-                         "cupsys-common | grep -i \"version:\")) | awk -F. '{ print $1 \".\" $2 }'";
-const char kOldPackage[] = "\nPackage: cupsys-common\n";
+// The package manager of rpm systems knows the installed version without a
+// running scheduler. Debian's dpkg was once asked for "cupsys-common",
+// a package name that no supported Debian or Ubuntu has: there the
+// running scheduler answers instead. A system without the package prints
+// "package cups is not installed", which has no version. The first two
+// dot-separated fields of "cups-2.4.2-1.fc39" are major and minor.
+const char kPipeline[] = "rpm -q cups | awk -F. '/^cups-[0-9]/ { print $1 \".\" $2 }'";
 // An answer this long is not a version number.
 constexpr int kMaxAnswer = 15;
 
-// The pipeline answers through rpm, or through dpkg when its database of
-// available packages still lists the old package name. Today's Debian and
-// Ubuntu have neither, and there the shell, dpkg, grep and awk would only
-// take CPU from start-up to print nothing.
+// Only an rpm on the PATH can answer; elsewhere the shell would take CPU
+// from start-up to print nothing.
 bool packageQueryCanAnswer()
 {
     const QByteArray path = qgetenv("PATH");
@@ -36,14 +35,7 @@ bool packageQueryCanAnswer()
         if (!dir.isEmpty() && access((dir + "/rpm").constData(), X_OK) == 0)
             return true;
     }
-    QFile available(QStringLiteral("/var/lib/dpkg/available"));
-    if (!available.open(QIODevice::ReadOnly))
-        return false;
-    const uchar *data = available.map(0, available.size());
-    if (!data)
-        return false;
-    const QByteArrayView text(data, available.size());
-    return text.startsWith(kOldPackage + 1) || text.contains(QByteArrayView(kOldPackage));
+    return false;
 }
 
 } // namespace

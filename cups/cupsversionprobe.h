@@ -7,10 +7,10 @@
 #include <sys/types.h>
 
 // The version level of the installed CUPS, major * 100 + minor (101 for
-// 1.1.x, 204 for 2.4.x, 300 for 3.0), -1 when unknown. The package query is a shell pipeline that takes a good
-// part of a second: where it can answer at all (rpm, or dpkg knowing the
-// old package name) it starts with this object and is read when the number
-// is first used, so that start-up goes on meanwhile. When no package
+// 1.1.x, 204 for 2.4.x, 300 for 3.0), -1 when unknown. The package query is
+// a shell pipeline that takes a good part of a second: where it can answer
+// at all (rpm systems) it starts with this object and is read when the
+// number is first used, so that start-up goes on meanwhile. When no package
 // answers, the fallback (the running scheduler) is asked then.
 //
 // Used like the int it stands for; assigning a number ends the probe.

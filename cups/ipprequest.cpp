@@ -1,7 +1,7 @@
 #include "ipprequest.h"
 
+#include "ippauthentication.h"
 #include "ipplog.h"
-#include "passworddialog.h"
 
 #include <QCoreApplication>
 #include <QByteArrayView>
@@ -21,73 +21,7 @@ namespace {
 constexpr int ConnectTimeoutMs = 3000;
 constexpr double AnswerTimeoutSeconds = 10.0;
 
-QString cancelled()
-{
-    return QCoreApplication::translate("IPPRequest", "Authentication cancelled");
-}
-
-void wipe(QByteArray &bytes)
-{
-    bytes.fill('\0');
-    bytes.clear();
-}
-
-void wipe(QString &text)
-{
-    text.fill(QChar(0));
-    text.clear();
-}
-
-// Name and password that the user typed, in the locale's encoding (as the
-// system's tools pass them); libcups reads the password from here.
-struct Credentials
-{
-    QByteArray user;
-    QByteArray password;
-    bool accepted = false; // an answer came to a request that offered them
-    bool fresh = false;    // typed for the current request before libcups asked
-
-    ~Credentials() { clear(); }
-    void clear()
-    {
-        wipe(password);
-        user.clear();
-        accepted = false;
-        fresh = false;
-    }
-};
-
-Credentials s_credentials;
-// The user libcups names when nobody typed another one, read once before
-// this program changes it.
-QByteArray s_processUser;
-// Passwords offered during the current request: when the scheduler asks
-// again it refused the last one; libcups itself would ask forever.
-int s_offered = 0;
-// Why the password callback gave the current request up.
-QString s_authFailure;
-IPPRequest::PasswordAsker s_asker = nullptr;
 QString s_lastError;
-
-// A request's authentication starts and ends as the program's user, so that
-// peer credentials on the local socket apply and other libcups calls don't
-// go on naming a user typed for one request.
-class AuthenticationScope
-{
-public:
-    AuthenticationScope() { reset(); }
-    ~AuthenticationScope() { reset(); }
-    AuthenticationScope(const AuthenticationScope &) = delete;
-    AuthenticationScope &operator=(const AuthenticationScope &) = delete;
-
-private:
-    static void reset()
-    {
-        s_offered = 0;
-        s_credentials.fresh = false;
-        cupsSetUser(s_processUser.constData());
-    }
-};
 
 bool onLocalSocket()
 {
@@ -102,25 +36,6 @@ ipp_t *copyOf(ipp_t *request)
     ippSetRequestId(copy, ippGetRequestId(request));
     ippCopyAttributes(copy, request, 0, nullptr, nullptr);
     return copy;
-}
-
-// Asks for a name and a password and keeps them; a blank name stands for
-// fallbackUser. False, with the reason noted, when the user cancelled or
-// left the name blank without a fallback.
-bool askCredentials(const QString &prompt, QString user, const QByteArray &fallbackUser)
-{
-    QString password;
-    const bool confirmed = (s_asker ? s_asker : &PasswordDialog::ask)(prompt, &user, &password);
-    s_credentials.clear();
-    const QByteArray name = user.isEmpty() ? fallbackUser : user.toLocal8Bit();
-    if (confirmed && !name.isEmpty()) {
-        s_credentials.user = name;
-        s_credentials.password = password.toLocal8Bit();
-    } else {
-        s_authFailure = cancelled();
-    }
-    wipe(password);
-    return !s_credentials.user.isEmpty();
 }
 
 // Listings answer with hundreds of kilobytes (a thousand queues, a whole
@@ -171,9 +86,7 @@ IPPRequest::~IPPRequest() = default;
 
 void IPPRequest::setUpAuthentication()
 {
-    cupsSetPasswordCB2(&IPPRequest::passwordCallback, nullptr);
-    if (s_processUser.isEmpty())
-        s_processUser = cupsUser();
+    IPPAuthentication::setUp();
 }
 
 void IPPRequest::addString(ipp_tag_t valueTag, const char *name, const char *value, ipp_tag_t group)
@@ -249,8 +162,7 @@ bool IPPRequest::Execute(const char *resource)
     if (target.isEmpty())
         return false;
 
-    const AuthenticationScope scope;
-    s_authFailure.clear();
+    const IPPAuthentication::Scope scope;
     m_connection = connectToScheduler();
     if (!m_connection) {
         setLastError(noAnswerText());
@@ -273,8 +185,8 @@ bool IPPRequest::Execute(const char *resource)
         IppPtr copy(onLocalSocket() ? copyOf(m_request.get()) : nullptr);
         // cupsDoFileRequest frees the request whatever happens.
         m_response.reset(cupsDoFileRequest(m_connection.get(), m_request.release(), target.constData(), upload));
-        if (!m_response && copy && cupsLastError() == IPP_STATUS_ERROR_FORBIDDEN && s_offered == 0
-            && administratorCredentials()) {
+        if (!m_response && copy && cupsLastError() == IPP_STATUS_ERROR_FORBIDDEN
+            && !IPPAuthentication::offered() && IPPAuthentication::administratorCredentials()) {
             IPPLog::line(IPPLog::Request, "Requesting operation 0x%x again...", static_cast<unsigned>(m_operation));
             // The connection would send the refused peer credentials again.
             httpSetAuthString(m_connection.get(), nullptr, nullptr);
@@ -285,10 +197,10 @@ bool IPPRequest::Execute(const char *resource)
     if (!m_response) {
         IPPLog::line(IPPLog::Request, "Requesting failed!\n");
         IPPLog::flush(IPPLog::Request);
-        // Credentials that got the user nowhere are not offered again.
-        if (s_offered > 0 || s_credentials.fresh)
-            s_credentials.clear();
-        QString reason = s_authFailure.isEmpty() ? QString::fromUtf8(cupsLastErrorString()) : s_authFailure;
+        IPPAuthentication::requestFailed();
+        QString reason = IPPAuthentication::failure();
+        if (reason.isEmpty())
+            reason = QString::fromUtf8(cupsLastErrorString());
         // An answer read in blocks leaves libcups' last error as it was.
         if (!ordinaryWay)
             reason.clear();
@@ -301,8 +213,7 @@ bool IPPRequest::Execute(const char *resource)
     IPPLog::flush(IPPLog::Request);
     if (ippGetState(m_response.get()) == IPP_STATE_ERROR)
         return false;
-    if (s_offered > 0)
-        s_credentials.accepted = true;
+    IPPAuthentication::requestAnswered();
     return true;
 }
 
@@ -417,55 +328,15 @@ void IPPRequest::setLastError(const QString &error)
 
 void IPPRequest::setPasswordAsker(PasswordAsker asker)
 {
-    s_asker = asker;
-}
-
-const char *IPPRequest::passwordCallback(const char *prompt, http_t *http, const char * /*method*/,
-                                         const char * /*resource*/, void * /*data*/)
-{
-    if (s_offered >= MaxPasswordAttempts) {
-        // The scheduler's answer to the last password, as libcups words it.
-        const http_status_t status = http ? httpGetStatus(http) : HTTP_STATUS_UNAUTHORIZED;
-        s_authFailure = QString::fromUtf8(httpStatus(status >= HTTP_STATUS_BAD_REQUEST ? status
-                                                                                        : HTTP_STATUS_UNAUTHORIZED));
-        return nullptr;
-    }
-    // Kept credentials go first; once refused, the user is asked.
-    const bool kept = (s_credentials.accepted || s_credentials.fresh) && s_offered == 0;
-    if (!kept && !askCredentials(QString::fromUtf8(prompt), QString::fromLocal8Bit(cupsUser()), s_processUser))
-        return nullptr;
-    ++s_offered;
-    // libcups sends the name that cupsUser() gives once this returns.
-    cupsSetUser(s_credentials.user.constData());
-    return s_credentials.password.constData();
-}
-
-bool IPPRequest::administratorCredentials()
-{
-    // Accepted credentials of another account are tried first.
-    if (s_credentials.accepted && s_credentials.user != s_processUser) {
-        s_credentials.fresh = true;
-        cupsSetUser(s_credentials.user.constData());
-        return true;
-    }
-    const QString prompt = QCoreApplication::translate("IPPRequest", "%1 may not change the printers of this "
-                                                                     "computer. Name and password of an administrator:")
-                               .arg(QString::fromLocal8Bit(s_processUser));
-    if (!askCredentials(prompt, QString(), QByteArray()))
-        return false;
-    s_credentials.fresh = true;
-    // Another name than the program's user keeps libcups from sending the
-    // peer credentials again; the scheduler then asks for the password.
-    cupsSetUser(s_credentials.user.constData());
-    return true;
+    IPPAuthentication::setPasswordAsker(asker);
 }
 
 bool IPPRequest::hasSavedPassword()
 {
-    return s_credentials.accepted;
+    return IPPAuthentication::hasSavedPassword();
 }
 
 void IPPRequest::forgetPassword()
 {
-    s_credentials.clear();
+    IPPAuthentication::forget();
 }

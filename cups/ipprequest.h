@@ -2,6 +2,7 @@
 #define QUEUEWIZ_IPPREQUEST_H
 
 #include "cupsptr.h"
+#include "ippauthentication.h"
 
 #include <QByteArrayView>
 #include <QString>
@@ -12,11 +13,9 @@
 // completed with the adders, sent once with Execute and destroyed. The answer
 // lives as long as the object.
 //
-// The class also keeps the process-wide authentication state. Requests are
-// made as the user who runs the program, so that on the local socket a
-// member of the scheduler's system group needs no password. When the
-// scheduler still wants one, the user is asked for a name and a password;
-// credentials that were accepted are offered again without asking.
+// Requests are made as the user who runs the program; the static password
+// functions below are those of IPPAuthentication, which keeps the
+// process-wide credentials.
 class IPPRequest
 {
 public:
@@ -83,10 +82,8 @@ public:
     static QString serverAddress();
 
     // How often one request may offer a password that the scheduler refuses.
-    static constexpr int MaxPasswordAttempts = 3;
-    // Asks the user for credentials, showing libcups' prompt; *user comes
-    // filled with the name asked for. Returns false when cancelled.
-    using PasswordAsker = bool (*)(const QString &prompt, QString *user, QString *password);
+    static constexpr int MaxPasswordAttempts = IPPAuthentication::MaxPasswordAttempts;
+    using PasswordAsker = IPPAuthentication::PasswordAsker;
     // Replaces the password dialog (tests answer without a window); nullptr
     // restores the dialog.
     static void setPasswordAsker(PasswordAsker asker);
@@ -99,11 +96,6 @@ public:
 
 private:
     static void setLastError(const QString &error);
-    // Credentials of an administrator for a request refused to the
-    // program's user; false when the user cancelled.
-    static bool administratorCredentials();
-    static const char *passwordCallback(const char *prompt, http_t *http, const char *method,
-                                        const char *resource, void *data);
     // Sends the request and reads a listing's answer in large blocks; null
     // when none came, or, with *ordinaryWay set, when the scheduler answered
     // anything but HTTP 200 and the request should go through libcups.

@@ -7,7 +7,6 @@
 
 #include <QString>
 
-#include <cstdio>
 #include <memory>
 
 
@@ -37,13 +36,6 @@ public:
     void setInstallableOptionsEditable(bool editable);
     // Takes the PPD's marked choices again and shows the current option anew.
     void refresh();
-
-    // Copies in to out line by line, with every "*Default" line of an option
-    // that has a marked choice in ppd rewritten as "*DefaultKEY: CHOICE".
-    static void rewriteDefaults(ppd_file_t *ppd, FILE *in, FILE *out);
-    // A temporary copy of the PPD file source with the default lines of
-    // ppd's marked choices; a null file (after a warning) on failure.
-    static TempFile rewrittenCopy(ppd_file_t *ppd, const QString &source);
 
 public slots:
     void setOkButtonState();

@@ -3,8 +3,9 @@
 #include "cupsmanager.h"
 #include "cupsprinter.h"
 #include "ipprequest.h"
-#include "ppddialog.h"
+#include "pendingppdwriters.h"
 #include "ppdfileptr.h"
+#include "ppdrewriter.h"
 #include "tempfile.h"
 
 #include <QCoreApplication>
@@ -13,9 +14,6 @@
 #include <QMap>
 #include <QProcess>
 #include <QThread>
-
-#include <signal.h>
-#include <unistd.h>
 
 #include <cups/cups.h>
 #include <cups/ppd.h>
@@ -144,8 +142,12 @@ bool PrinterCreator::applyPaperSize(const QString &queue, const char *paper) con
     lpadmin.setStandardErrorFile(QProcess::nullDevice());
     qint64 pid = 0;
     if (lpadmin.startDetached(&pid)) {
-        for (int poll = 0; poll < LpadminPolls && isRunning(pid); ++poll)
+        for (int poll = 0; poll < LpadminPolls && PendingPPDWriters::isRunning(pid); ++poll)
             QThread::msleep(LpadminPollMs);
+        // Still running, it would store its copy of the driver file over
+        // the options the user may save next: they wait for it.
+        if (PendingPPDWriters::isRunning(pid))
+            PendingPPDWriters::add(queue, pid);
     } else {
         qWarning("%s could not be started", qPrintable(m_LpadminProgram));
     }
@@ -161,27 +163,10 @@ bool PrinterCreator::setPaperInDriver(const QString &queue, const char *paper) c
     const PpdFilePtr ppd = openDriver(fetched);
     if (ppd && ppdIsMarked(ppd.get(), "PageSize", paper))
         return true;
-    if (!ppd || !ppdFindChoice(ppdFindOption(ppd.get(), "PageSize"), paper))
+    if (!ppd)
         return false;
-    // Marking either of the two unmarks the other: a pass for each.
-    ppdMarkOption(ppd.get(), "PageSize", paper);
-    const TempFile sized = PPDDialog::rewrittenCopy(ppd.get(), fetched.path());
-    if (sized.isNull())
-        return false;
-    ppdMarkOption(ppd.get(), "PageRegion", paper);
-    const TempFile region = PPDDialog::rewrittenCopy(ppd.get(), sized.path());
-    return !region.isNull() && m_cups.attachDriverFile(queue, region.path());
-}
-
-bool PrinterCreator::isRunning(qint64 pid)
-{
-    // Once it has ended the system reaps it; a zombie counts as ended.
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly))
-        return ::kill(static_cast<pid_t>(pid), 0) == 0;
-    const QByteArray line = stat.readAll();
-    const int state = line.lastIndexOf(')') + 2;
-    return state > 1 && state < line.size() && line.at(state) != 'Z' && line.at(state) != 'X';
+    const TempFile sized = PPDRewriter(ppd.get()).paperSizeCopy(fetched.path(), paper);
+    return !sized.isNull() && m_cups.attachDriverFile(queue, sized.path());
 }
 
 bool PrinterCreator::makeDefault(const QString &queue) const

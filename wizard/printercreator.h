@@ -63,9 +63,9 @@ public:
     bool isPaperDefault(const QString &queue, const char *paper) const;
     // Makes paper the queue's default page size unless it is already: with
     // lpadmin, started detached and waited for about five seconds at most
-    // (it goes on after that, also once the wizard has quit), and when the
-    // paper is still not the default then, with setPaperInDriver(). True
-    // when the paper is the default.
+    // (it goes on after that, also once the wizard has quit, and the options
+    // dialog waits for it), and when the paper is still not the default
+    // then, with setPaperInDriver(). True when the paper is the default.
     bool applyPaperSize(const QString &queue, const char *paper) const;
     // Uploads the queue's PPD with paper as the PageSize and PageRegion
     // default, through this program's authenticated connection, unless
@@ -87,8 +87,6 @@ public:
     static QProcessEnvironment cupsClientEnvironment();
 
 private:
-    // Whether the process pid has not ended yet.
-    static bool isRunning(qint64 pid);
     // Removes the queues earlier commits left half-made; false when one is
     // still there.
     bool removeUnfinished(Result &result);

@@ -1,7 +1,7 @@
 // The rewrite of a PPD's "*Default" lines on any file content: lines of any
 // length, line ends of any kind, NUL bytes.
 #include "fuzztarget.h"
-#include "ppddialog.h"
+#include "ppdrewriter.h"
 
 #include <cups/ppd.h>
 
@@ -30,7 +30,7 @@ QW_FUZZ_TARGET
         return 0;
     FILE *out = fopen("/dev/null", "wb");
     if (out) {
-        PPDDialog::rewriteDefaults(samplePpd(), in, out);
+        PPDRewriter(samplePpd()).rewriteDefaults(in, out);
         fclose(out);
     }
     fclose(in);

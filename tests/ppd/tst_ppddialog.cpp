@@ -1,7 +1,9 @@
 #include "cupssandbox.h"
 #include "mimesourcefactory_ppdwidgets.h"
+#include "pendingppdwriters.h"
 #include "ppddialog.h"
 #include "ppdoptionview.h"
+#include "ppdrewriter.h"
 #include "ppdtreebaseitem.h"
 #include "ppdtreeview.h"
 #include "testpaths.h"
@@ -55,7 +57,7 @@ QByteArray rewritten(ppd_file_t *ppd, QByteArray input)
         FilePtr in(fmemopen(input.data(), size_t(input.size()), "r"));
         FilePtr out(open_memstream(&buffer, &size));
         if (ppd && in && out)
-            PPDDialog::rewriteDefaults(ppd, in.get(), out.get());
+            PPDRewriter(ppd).rewriteDefaults(in.get(), out.get());
     }
     const QByteArray output(buffer, qsizetype(size));
     std::free(buffer);
@@ -328,6 +330,47 @@ private slots:
         QCOMPARE(written, expected);
         // Marking PageSize unmarks PageRegion, so its line stays as it was.
         QVERIFY(written.contains("*DefaultPageRegion: A4\n"));
+    }
+
+    void paperSize_data()
+    {
+        QTest::addColumn<QByteArray>("paper");
+        QTest::newRow("Letter") << QByteArray("Letter");
+        QTest::newRow("not offered by the driver") << QByteArray("Tabloid");
+    }
+
+    // A new queue's paper: the defaults of PageSize and PageRegion both,
+    // nothing else; no file for a paper the driver lacks.
+    void paperSize()
+    {
+        QFETCH(QByteArray, paper);
+        const QString name = QStringLiteral("acme-colorlaser2550.ppd");
+        PpdFilePtr ppd = openSample(name, QByteArray());
+        QFile file(TestPaths::samplePpd(name));
+        QVERIFY(ppd && file.open(QIODevice::ReadOnly));
+        const TempFile copy = PPDRewriter(ppd.get()).paperSizeCopy(file.fileName(), paper.constData());
+        QByteArray expected = file.readAll();
+        expected.replace("*DefaultPageSize: A4\n", "*DefaultPageSize: " + paper + '\n');
+        expected.replace("*DefaultPageRegion: A4\n", "*DefaultPageRegion: " + paper + '\n');
+        QCOMPARE(copy.isNull() ? QByteArray() : TestSupport::readFile(copy.path()),
+                 paper == "Tabloid" ? QByteArray() : expected);
+    }
+
+    // A program still storing a queue's PPD is waited for, then ended;
+    // those of other queues go on.
+    void pendingWriters()
+    {
+        qint64 late = 0;
+        qint64 other = 0;
+        QVERIFY(QProcess::startDetached(QStringLiteral("sleep"), {QStringLiteral("30")}, QString(), &late));
+        QVERIFY(QProcess::startDetached(QStringLiteral("sleep"), {QStringLiteral("30")}, QString(), &other));
+        PendingPPDWriters::add(QStringLiteral("late"), late);
+        PendingPPDWriters::add(QStringLiteral("other"), other);
+        PendingPPDWriters::settle(QStringLiteral("late"), 300);
+        QVERIFY(!PendingPPDWriters::isRunning(late));
+        QVERIFY(PendingPPDWriters::isRunning(other));
+        PendingPPDWriters::settle(QStringLiteral("other"), 0);
+        QVERIFY(!PendingPPDWriters::isRunning(other));
     }
 
 private:

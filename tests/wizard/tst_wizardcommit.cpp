@@ -223,6 +223,8 @@ private slots:
                                           << "Can't check whether the name is free: The printing service at %1 "
                                              "does not answer. Try again.";
         QTest::newRow("driver refused") << "" << "" << unique("driver") << "16387 3 F 1280" << notAdded;
+        QTest::newRow("driver refused, classes unlisted")
+            << "" << "" << unique("unlisted") << "16387 3 F 1280;16389 1 F 1280" << notAdded;
         QTest::newRow("scheduler stopped") << "" << "" << unique("stopped") << "16387 2 P" << notAdded;
     }
 
