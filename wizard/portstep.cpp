@@ -4,6 +4,7 @@
 #include "networksearchnote.h"
 #include "oemconfig.h"
 #include "printerportlistview.h"
+#include "samedevice.h"
 #include "softassert.h"
 #include "titlelesswizard.h"
 #include "urlpushbutton.h"
@@ -59,6 +60,13 @@ void PortStep::setUp(const QString &shareDir)
     m_pPortTypes->addButton(m_pOfflineButton, Manual);
     m_pSearchNote = new NetworkSearchNote(m_wizard);
     connect(m_pSearchNote, &NetworkSearchNote::typeAddressRequested, this, &PortStep::typeAddressInstead);
+    m_pPortTypeNote = m_wizard->findChild<QLabel *>(QStringLiteral("PortTypeNoteLabel"));
+    m_pPortNote = m_wizard->findChild<QLabel *>(QStringLiteral("PortNoteLabel"));
+    for (QLabel *note : { m_pPortTypeNote, m_pPortNote }) {
+        if (note)
+            note->hide();
+    }
+    connect(m_pPortsView, &QTreeWidget::itemChanged, this, &PortStep::portKept);
 
     m_pixmaps.load(shareDir);
     findLocalDevices();
@@ -97,6 +105,7 @@ void PortStep::setPortType(int id)
     switch (id) {
     case Manual:
         m_portAssigned = false;
+        noteExistingQueue(m_pPortTypeNote, QString());
         resetPortPage();
         emit deviceChosen(QString(), QString());
         m_wizard->setAppropriate(m_portsPage, true);
@@ -198,6 +207,7 @@ void PortStep::applyNetworkDevice(int index)
     selectPort(uri);
     m_networkUri = uri;
     m_portAssigned = true;
+    noteExistingQueue(m_pPortTypeNote, uri, device.description);
     emit deviceChosen(device.description, QString());
 }
 
@@ -222,7 +232,9 @@ void PortStep::resetPortPage()
 void PortStep::applyLocalDevice(const QString &label)
 {
     m_pPortsView->clearSelection();
-    m_portAssigned = selectPort(QStringLiteral("mfp:") + LocalDeviceList::devicePathOf(label));
+    const QString uri = QStringLiteral("mfp:") + LocalDeviceList::devicePathOf(label);
+    m_portAssigned = selectPort(uri);
+    noteExistingQueue(m_pPortTypeNote, m_portAssigned ? uri : QString());
 
     const LocalDeviceList::Device *device = m_localDevices.find(label);
     m_pConnectedImage->setPixmap(device ? m_pixmaps.picture(device->model) : PixmapManager::genericPrinter());
@@ -254,6 +266,9 @@ void PortStep::portChanged()
     const bool ok = item && item->parent() && m_pPortsView->isSelectionEditable();
     m_portAssigned = ok;
     m_wizard->setNextEnabled(m_portsPage, ok);
+    // What was said of another port is gone; a typed one is looked at once
+    // it is kept.
+    noteExistingQueue(m_pPortNote, QString());
 }
 
 void PortStep::portRenaming(ListViewItemEx *item, int column, const QString &text)
@@ -261,4 +276,24 @@ void PortStep::portRenaming(ListViewItemEx *item, int column, const QString &tex
     const bool ok = item && item->isAcceptable(column, text);
     m_portAssigned = ok;
     m_wizard->setNextEnabled(m_portsPage, ok);
+}
+
+QString PortStep::noteExistingQueue(QLabel *label, const QString &uri, const QString &serviceName)
+{
+    QString queue;
+    QMap<QString, CUPSPrinter> queues;
+    if (!uri.isEmpty() && CUPSManager::m_CUPSManagerInstance.listPrinters(queues))
+        queue = SameDevice::queueOf(uri, queues, serviceName);
+    if (label) {
+        // A second queue with other options is legitimate: only a note.
+        label->setText(queue.isEmpty() ? QString() : tr("This printer is already set up as '%1'.").arg(queue));
+        label->setVisible(!queue.isEmpty());
+    }
+    return queue;
+}
+
+void PortStep::portKept(QTreeWidgetItem *item)
+{
+    if (item && item == m_pPortsView->selectedItem() && m_wizard->currentId() == m_portsPage && m_portAssigned)
+        noteExistingQueue(m_pPortNote, m_pPortsView->selectedURI());
 }

@@ -17,6 +17,7 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 class QRadioButton;
+class QTreeWidgetItem;
 class TitlelessWizard;
 class URLPushButton;
 
@@ -73,6 +74,9 @@ private:
     void typeAddressInstead();
     // Selects the entry of the port list that stands for uri.
     bool selectPort(const QString &uri);
+    // Says on label which queue already prints to uri; empty when none.
+    QString noteExistingQueue(QLabel *label, const QString &uri, const QString &serviceName = QString());
+    void portKept(QTreeWidgetItem *item);
 
     TitlelessWizard *m_wizard;
     const int m_portTypePage;
@@ -91,6 +95,9 @@ private:
     PrinterPortListView *m_pPortsView = nullptr;
     QButtonGroup *m_pPortTypes = nullptr;
     NetworkSearchNote *m_pSearchNote = nullptr;
+    // Optional notes of the port type page and of the ports page.
+    QLabel *m_pPortTypeNote = nullptr;
+    QLabel *m_pPortNote = nullptr;
 
     LocalDeviceList m_localDevices;
     NetworkDeviceList m_networkDevices;

@@ -477,6 +477,13 @@ Použijte tuto adresu:
     </message>
 </context>
 <context>
+    <name>PortStep</name>
+    <message>
+        <source>This printer is already set up as &apos;%1&apos;.</source>
+        <translation>Tato tiskárna je již nastavena jako „%1“.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPortListView</name>
     <message>
         <source>IPP</source>

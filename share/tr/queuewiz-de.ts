@@ -475,6 +475,13 @@ Verwenden Sie diese Adresse:
     </message>
 </context>
 <context>
+    <name>PortStep</name>
+    <message>
+        <source>This printer is already set up as &apos;%1&apos;.</source>
+        <translation>Dieser Drucker ist bereits als „%1“ eingerichtet.</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPortListView</name>
     <message>
         <source>IPP</source>

@@ -475,6 +475,13 @@ Use esta dirección:
     </message>
 </context>
 <context>
+    <name>PortStep</name>
+    <message>
+        <source>This printer is already set up as &apos;%1&apos;.</source>
+        <translation>Esta impresora ya está configurada como «%1».</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPortListView</name>
     <message>
         <source>IPP</source>

@@ -334,7 +334,7 @@ Utilisez cette adresse&#xa0;:
     </message>
     <message>
         <source>The network search failed: %1.</source>
-        <translation>La recherche réseau a échoué : %1.</translation>
+        <translation>La recherche réseau a échoué&#xa0;: %1.</translation>
     </message>
     <message>
         <source>no reason given</source>
@@ -472,6 +472,13 @@ Utilisez cette adresse&#xa0;:
     <message>
         <source>Password:</source>
         <translation>Mot de passe&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>PortStep</name>
+    <message>
+        <source>This printer is already set up as &apos;%1&apos;.</source>
+        <translation>Cette imprimante est déjà configurée sous le nom «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>

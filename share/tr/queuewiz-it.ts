@@ -475,6 +475,13 @@ Usare questo indirizzo:
     </message>
 </context>
 <context>
+    <name>PortStep</name>
+    <message>
+        <source>This printer is already set up as &apos;%1&apos;.</source>
+        <translation>Questa stampante è già configurata come «%1».</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPortListView</name>
     <message>
         <source>IPP</source>

@@ -473,6 +473,13 @@ Use that address:
     </message>
 </context>
 <context>
+    <name>PortStep</name>
+    <message>
+        <source>This printer is already set up as &apos;%1&apos;.</source>
+        <translation>このプリンターはすでに「%1」として設定されています。</translation>
+    </message>
+</context>
+<context>
     <name>PrinterPortListView</name>
     <message>
         <source>IPP</source>

@@ -216,8 +216,9 @@ private slots:
         QTest::newRow("letter case aside") << unique("Case") << "acme-laser1610.ppd" << unique("cASE") << "" << inUse;
         QTest::newRow("another vendor's driver")
             << unique("globex") << "globex-pagewriter40.ppd" << unique("globex") << "" << inUse;
+        // The first listing is the ports page's, looking for a queue on the port.
         QTest::newRow("name check answered busy")
-            << unique("lab") << "acme-laser1610.ppd" << unique("lab") << "16386 1 F 1287"
+            << unique("lab") << "acme-laser1610.ppd" << unique("lab") << "16386 2 F 1287"
             << "Can't check whether the name is free: IPP_PRINTER_BUSY - Printer busy. Try again.";
         QTest::newRow("scheduler killed") << "" << "" << unique("killed") << "kill"
                                           << "Can't check whether the name is free: The printing service at %1 "

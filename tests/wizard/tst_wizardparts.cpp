@@ -2,6 +2,7 @@
 #include "drivermatcher.h"
 #include "localdevicelist.h"
 #include "pixmapmanager.h"
+#include "samedevice.h"
 #include "testpaths.h"
 #include "testsupport.h"
 #include "wizardpagetitle.h"
@@ -235,6 +236,34 @@ private slots:
         title->setFixedHeight(20);
         title->setSubTitle(LongText + LongText);
         QCOMPARE(fontSizes(*title), Sizes(7, 7));
+    }
+    void sameDevice_data()
+    {
+        QTest::addColumn<QString>("chosen");
+        QTest::addColumn<QString>("queue");
+        QTest::addColumn<QString>("service");  // a discovered printer's DNS-SD name
+        QTest::addColumn<bool>("same");
+
+        const QString dnssd = QStringLiteral("dnssd://Lab%20Printer._ipp._tcp.local/?uuid=1");
+        QTest::newRow("same local device") << "mfp:/dev/usb/lp0" << "mfp:/dev/usb/lp0" << "" << true;
+        QTest::newRow("other local device") << "mfp:/dev/usb/lp0" << "mfp:/dev/usb/lp1" << "" << false;
+        QTest::newRow("other scheme") << "ipp://10.0.0.5/ipp/print" << "ipps://10.0.0.5:443/ipp/print/" << "" << true;
+        QTest::newRow("host name form") << "ipp://Lab.local./ipp/print" << "ipp://lab.local/ipp/print" << "" << true;
+        QTest::newRow("IPv6 form") << "ipp://[fe80::0:1]/ipp/print" << "ipp://[FE80::1]/ipp/print" << "" << true;
+        QTest::newRow("IPv4 mapped") << "socket://[::ffff:10.0.0.5]:9100" << "socket://10.0.0.5" << "" << true;
+        QTest::newRow("other resource") << "ipp://10.0.0.5/ipp/print" << "lpd://10.0.0.5/lp" << "" << false;
+        QTest::newRow("other host") << "socket://10.0.0.5:9100" << "socket://10.0.0.6:9100" << "" << false;
+        QTest::newRow("local and network") << "mfp:/dev/usb/lp0" << "socket://10.0.0.5" << "" << false;
+        QTest::newRow("DNS-SD name") << "ipp://10.0.0.7/ipp/print" << dnssd << "Lab Printer" << true;
+        QTest::newRow("other DNS-SD name") << "ipp://10.0.0.7/ipp/print" << dnssd << "Lab" << false;
+    }
+
+    void sameDevice()
+    {
+        QFETCH(QString, chosen);
+        QFETCH(QString, queue);
+        QFETCH(QString, service);
+        QTEST(SameDevice::matches(chosen, queue, service), "same");
     }
 };
 
