@@ -277,6 +277,9 @@ void AddPrinterWizard::pageEntered(int index)
 // Leaving the name page creates the printer.
 bool AddPrinterWizard::pageLeaving(int index)
 {
+    // A typed address not asked yet (Next clicked while typing) is asked now.
+    if (index == PortsPage)
+        m_ports->probeTypedPort();
     return index != NamePage || commitPrinter();
 }
 

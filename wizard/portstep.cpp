@@ -3,11 +3,13 @@
 #include "cupsmanager.h"
 #include "networksearchnote.h"
 #include "oemconfig.h"
+#include "printerprobe.h"
 #include "printerportlistview.h"
 #include "samedevice.h"
 #include "softassert.h"
 #include "titlelesswizard.h"
 #include "urlpushbutton.h"
+#include "waitcursor.h"
 
 #include <QButtonGroup>
 #include <QComboBox>
@@ -295,5 +297,39 @@ QString PortStep::noteExistingQueue(QLabel *label, const QString &uri, const QSt
 void PortStep::portKept(QTreeWidgetItem *item)
 {
     if (item && item == m_pPortsView->selectedItem() && m_wizard->currentId() == m_portsPage && m_portAssigned)
-        noteExistingQueue(m_pPortNote, m_pPortsView->selectedURI());
+        probeTypedPort();
+}
+
+void PortStep::probeTypedPort()
+{
+    const QString uri = m_pPortsView->selectedURI();
+    if (portTypeId() != Manual || !m_portAssigned || uri == m_probedUri)
+        return;
+    m_probedUri = uri;
+    const QString queue = noteExistingQueue(m_pPortNote, uri);
+    if (!PrinterProbe::canAsk(uri))
+        return;
+
+    PrinterProbe::Answer answer;
+    {
+        WaitCursor wait;
+        answer = PrinterProbe::ask(uri, 2000);
+    }
+    QString text;
+    if (answer.answered) {
+        // The resource that answered is where the queue will print.
+        if (answer.uri != uri) {
+            m_probedUri = answer.uri;
+            m_pPortsView->selectedItem()->setText(0, answer.uri);
+        }
+        text = answer.makeAndModel.isEmpty() ? tr("The printer answered but did not say its model.")
+                                             : tr("The printer says it is: %1.").arg(answer.makeAndModel);
+        emit deviceChosen(answer.makeAndModel, QString());
+    } else {
+        text = tr("The printer did not answer. Choose its driver yourself.");
+    }
+    if (m_pPortNote) {
+        m_pPortNote->setText(queue.isEmpty() ? text : m_pPortNote->text() + QLatin1Char('\n') + text);
+        m_pPortNote->show();
+    }
 }

@@ -55,6 +55,9 @@ public:
     void searchNetwork();
     void portChanged();
     void portRenaming(ListViewItemEx *item, int column, const QString &text);
+    // A network address typed and kept on the ports page is asked what
+    // printer it is, once per address; the answer picks the driver.
+    void probeTypedPort();
 
     QButtonGroup *portTypes() const { return m_pPortTypes; }
     PrinterPortListView *portsView() const { return m_pPortsView; }
@@ -106,6 +109,8 @@ private:
     bool m_portAssigned = false;
     // The chosen network printer's URI.
     QString m_networkUri;
+    // The typed address last asked, as it answered.
+    QString m_probedUri;
 };
 
 #endif

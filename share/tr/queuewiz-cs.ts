@@ -482,6 +482,18 @@ Použijte tuto adresu:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>Tato tiskárna je již nastavena jako „%1“.</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>Tiskárna odpověděla, ale neuvedla svůj model.</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>Tiskárna uvádí, že je: %1.</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>Tiskárna neodpověděla. Zvolte její ovladač sami.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

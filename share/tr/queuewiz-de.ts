@@ -480,6 +480,18 @@ Verwenden Sie diese Adresse:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>Dieser Drucker ist bereits als „%1“ eingerichtet.</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>Der Drucker hat geantwortet, aber sein Modell nicht genannt.</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>Der Drucker meldet sich als: %1.</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>Der Drucker hat nicht geantwortet. Bitte wählen Sie seinen Treiber selbst.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

@@ -480,6 +480,18 @@ Use esta dirección:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>Esta impresora ya está configurada como «%1».</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>La impresora respondió, pero no indicó su modelo.</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>La impresora dice ser: %1.</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>La impresora no respondió. Elija usted mismo su controlador.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

@@ -480,6 +480,18 @@ Utilisez cette adresse&#xa0;:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>Cette imprimante est déjà configurée sous le nom «&#xa0;%1&#xa0;».</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>L&apos;imprimante a répondu sans indiquer son modèle.</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>L&apos;imprimante indique être&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>L&apos;imprimante n&apos;a pas répondu. Veuillez choisir son pilote vous-même.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

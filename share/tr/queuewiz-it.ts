@@ -480,6 +480,18 @@ Usare questo indirizzo:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>Questa stampante è già configurata come «%1».</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>La stampante ha risposto ma non ha indicato il suo modello.</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>La stampante dichiara di essere: %1.</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>La stampante non ha risposto. Scegliere il suo driver manualmente.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

@@ -478,6 +478,18 @@ Use that address:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>このプリンターはすでに「%1」として設定されています。</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>プリンターは応答しましたが、モデルを返しませんでした。</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>プリンターの応答: %1。</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>プリンターが応答しませんでした。ドライバーを自分で選んでください。</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

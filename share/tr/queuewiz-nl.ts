@@ -480,6 +480,18 @@ Gebruik dit adres:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>Deze printer is al ingesteld als ‘%1’.</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>De printer heeft geantwoord, maar gaf zijn model niet op.</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>De printer meldt zich als: %1.</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>De printer heeft niet geantwoord. Kies zelf het stuurprogramma.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

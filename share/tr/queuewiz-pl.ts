@@ -482,6 +482,18 @@ Proszę użyć tego adresu:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>Ta drukarka jest już skonfigurowana jako „%1”.</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>Drukarka odpowiedziała, ale nie podała swojego modelu.</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>Drukarka zgłasza się jako: %1.</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>Drukarka nie odpowiedziała. Proszę samodzielnie wybrać jej sterownik.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

@@ -480,6 +480,18 @@ Use este endereço:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>Esta impressora já está configurada como “%1”.</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>A impressora respondeu, mas não informou seu modelo.</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>A impressora diz ser: %1.</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>A impressora não respondeu. Escolha o driver você mesmo.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

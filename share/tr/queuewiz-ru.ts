@@ -482,6 +482,18 @@ Use that address:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>Этот принтер уже настроен как «%1».</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>Принтер ответил, но не сообщил свою модель.</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>Принтер сообщает, что он: %1.</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>Принтер не ответил. Выберите его драйвер вручную.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

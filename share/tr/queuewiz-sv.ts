@@ -480,6 +480,18 @@ Använd den här adressen:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>Den här skrivaren är redan inställd som ”%1”.</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>Skrivaren svarade men angav inte sin modell.</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>Skrivaren säger att den är: %1.</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>Skrivaren svarade inte. Välj dess drivrutin själv.</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>

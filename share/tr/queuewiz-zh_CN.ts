@@ -478,6 +478,18 @@ Use that address:
         <source>This printer is already set up as &apos;%1&apos;.</source>
         <translation>此打印机已设置为“%1”。</translation>
     </message>
+    <message>
+        <source>The printer answered but did not say its model.</source>
+        <translation>打印机已响应，但未说明其型号。</translation>
+    </message>
+    <message>
+        <source>The printer says it is: %1.</source>
+        <translation>打印机报告其型号为：%1。</translation>
+    </message>
+    <message>
+        <source>The printer did not answer. Choose its driver yourself.</source>
+        <translation>打印机没有响应。请自行选择其驱动程序。</translation>
+    </message>
 </context>
 <context>
     <name>PrinterPortListView</name>
