@@ -252,8 +252,6 @@ private slots:
         QTest::newRow("IPv6 form") << "ipp://[fe80::0:1]/ipp/print" << "ipp://[FE80::1]/ipp/print" << "" << true;
         QTest::newRow("IPv4 mapped") << "socket://[::ffff:10.0.0.5]:9100" << "socket://10.0.0.5" << "" << true;
         QTest::newRow("other resource") << "ipp://10.0.0.5/ipp/print" << "lpd://10.0.0.5/lp" << "" << false;
-        QTest::newRow("other host") << "socket://10.0.0.5:9100" << "socket://10.0.0.6:9100" << "" << false;
-        QTest::newRow("local and network") << "mfp:/dev/usb/lp0" << "socket://10.0.0.5" << "" << false;
         QTest::newRow("DNS-SD name") << "ipp://10.0.0.7/ipp/print" << dnssd << "Lab Printer" << true;
         QTest::newRow("other DNS-SD name") << "ipp://10.0.0.7/ipp/print" << dnssd << "Lab" << false;
     }
