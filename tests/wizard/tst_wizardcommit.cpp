@@ -76,6 +76,7 @@ private slots:
             m_sandbox.use();
         PrinterCreator::m_LpadminProgram = QStringLiteral("lpadmin");
         qunsetenv("LC_PAPER");
+        qunsetenv("QUEUEWIZ_TESTPAGE_WAIT");
     }
 
     // The finish page's test page comes from the package's own program and
@@ -115,6 +116,7 @@ private slots:
         const QByteArray job = printer.waitForJob(60000);
         QVERIFY2(job.startsWith("%!PS") || job.startsWith("%PDF"), job.left(40).constData());
         QTRY_VERIFY_WITH_TIMEOUT(test->isEnabled(), 30000);
+        QCOMPARE(f.child<QLabel>("TestStatusLabel")->text(), QStringLiteral("The test page has been printed."));
 
         // The program is looked for at each click, bin/ before the
         // installer's copy; it gets the queue name, and its exit status 1 is
@@ -319,6 +321,53 @@ private slots:
         QTRY_VERIFY(WizardFixture::texts(list->model()).contains(Laser));
         QVERIFY(!problem->isVisible());
         QVERIFY(f.toNamePage(Laser));
+    }
+
+    // A test page the scheduler could not print is told with its reasons;
+    // one still waiting after the wait may be canceled.
+    void testPageFollowed_data()
+    {
+        QTest::addColumn<QByteArray>("backend");
+        QTest::addColumn<QString>("said");
+        QTest::newRow("device fails") << QByteArray("echo 'ERROR: Out of toner' >&2; exit 1")
+                                      << "The test page did not print: Out of toner";
+        QTest::newRow("queue stopped") << QByteArray() << "The test page has not printed yet: Paused";
+    }
+
+    void testPageFollowed()
+    {
+        QFETCH(QByteArray, backend);
+        QFETCH(QString, said);
+        const QString name = unique(backend.isEmpty() ? "paused" : "failing");
+        WizardFixture f;
+        QVERIFY(QDir().mkpath(f.rootDir() + "/bin"));
+        QVERIFY(QFile::link(TestPaths::binaryDir() + "/tools/printertest/printertest",
+                            f.rootDir() + "/bin/printertest"));
+        QVERIFY(create(f, "127.0.0.1:9", Laser, name));
+        QStringList admin{ "lpadmin", "-p", name };
+        if (backend.isEmpty()) {
+            QCOMPARE(CupsSandbox::run({ "cupsdisable", "-r", "Paused", name }), 0);
+        } else {
+            const QString script = f.rootDir() + "/failing";
+            QVERIFY(f.addScript("failing", "#!/bin/sh\n[ $# = 0 ] && exit 0\n" + backend + "\n"));
+            QVERIFY(m_sandbox.addBackend("failing", script));
+            admin << "-v" << "failing:/" << "-o" << "printer-error-policy=abort-job";
+            QCOMPARE(CupsSandbox::run(admin), 0);
+        }
+        qputenv("QUEUEWIZ_TESTPAGE_WAIT", "3");
+        auto *test = f.child<QPushButton>("TestButton");
+        auto *status = f.child<QLabel>("TestStatusLabel");
+        auto *cancel = f.child<QPushButton>("CancelTestJobButton");
+        QTest::mouseClick(test, Qt::LeftButton);
+        QVERIFY(!test->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(test->isEnabled(), 30000);
+        QVERIFY2(status->text().startsWith(said), qPrintable(status->text()));
+        QCOMPARE(cancel->isVisible(), backend.isEmpty());
+        if (cancel->isVisible()) {
+            QTest::mouseClick(cancel, Qt::LeftButton);
+            QCOMPARE(status->text(), QStringLiteral("The test page was canceled."));
+            QVERIFY(!cancel->isVisible());
+        }
     }
 
 private:
