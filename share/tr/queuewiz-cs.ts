@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>tisková služba neuvedla důvod</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>Tiskárna nesdělila, co umí.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>der Druckdienst hat keinen Grund genannt</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>Der Drucker hat nicht mitgeteilt, was er kann.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

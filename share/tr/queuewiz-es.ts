@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>el servicio de impresión no dio ningún motivo</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>La impresora no indicó lo que puede hacer.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

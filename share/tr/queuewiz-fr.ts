@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>le service d&apos;impression n&apos;a donné aucune raison</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>L&apos;imprimante n&apos;a pas indiqué ce qu&apos;elle sait faire.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>il servizio di stampa non ha indicato alcun motivo</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>La stampante non ha indicato cosa sa fare.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

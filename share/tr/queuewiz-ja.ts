@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>印刷サービスは理由を示しませんでした</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>プリンターが対応機能を返しませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>de afdrukservice gaf geen reden</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>De printer heeft niet gemeld wat hij kan.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

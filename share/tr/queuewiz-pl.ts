@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>usługa drukowania nie podała przyczyny</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>Drukarka nie podała, co potrafi.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

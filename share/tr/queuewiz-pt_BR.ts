@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>o serviço de impressão não informou o motivo</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>A impressora não informou o que sabe fazer.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>служба печати не указала причину</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>Принтер не сообщил, что он умеет.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>utskriftstjänsten angav ingen orsak</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>Skrivaren berättade inte vad den kan.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

@@ -129,6 +129,10 @@
         <source>the printing service gave no reason</source>
         <translation>打印服务未给出原因</translation>
     </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>打印机未说明其功能。</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>

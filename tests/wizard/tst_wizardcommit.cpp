@@ -1,6 +1,7 @@
 #include "AddPrinterWizard.h"
 #include "cupsmanager.h"
 #include "cupssandbox.h"
+#include "driverstep.h"
 #include "ippfaultproxy.h"
 #include "loopbackprinter.h"
 #include "papersize.h"
@@ -13,6 +14,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTcpServer>
 #include <QtTest>
 
 #include <signal.h>
@@ -368,6 +370,49 @@ private slots:
             QCOMPARE(status->text(), QStringLiteral("The test page was canceled."));
             QVERIFY(!cancel->isVisible());
         }
+    }
+
+    // A printer reached over IPP is offered without the package's driver
+    // when none fits; a queue whose printer gave nothing to build one from
+    // is not left behind, one whose printer answers gets its driver.
+    void driverless()
+    {
+        QTcpServer probe;
+        QVERIFY(probe.listen(QHostAddress::LocalHost));
+        const QString nowhere = "ipp://127.0.0.1:" + QString::number(probe.serverPort());
+        probe.close();
+        const QString name = unique("nowhere");
+        WizardFixture f;
+        QVERIFY(f.load() && f.toPortsPage() && f.typePort(nowhere) && f.click(QWizard::NextButton));
+        auto *list = f.child<QListWidget>("DriversList");
+        QTRY_VERIFY(list->count() > 1 && list->currentItem());
+        QCOMPARE(list->currentItem()->text(), QStringLiteral("Driverless (IPP Everywhere)"));
+        QCOMPARE(list->currentRow(), list->count() - 1);
+        QVERIFY(f.click(QWizard::NextButton));
+        auto *edit = f.child<QLineEdit>("NameEdit");
+        edit->selectAll();
+        QTest::keyClicks(edit, name);
+        QString seen;
+        TestSupport::answerMessageBox("OK", &seen, 30000);
+        QVERIFY(f.click(QWizard::NextButton));
+        QCOMPARE(seen, QStringLiteral("Error!|Can't add printer!"));
+        QCOMPARE(f.wizard()->currentId(), int(W::NamePage));
+        CUPSPrinter queue;
+        QVERIFY(!CUPSManager::m_CUPSManagerInstance.findPrinter(name, queue));
+
+        // The sandbox's own queue is a printer that answers over IPP.
+        const QString source = unique("source");
+        QCOMPARE(CupsSandbox::run({ "lpadmin", "-p", source, "-E", "-v", "socket://127.0.0.1:9", "-m",
+                                    "acme-laser1610.ppd" }), 0);
+        CUPSPrinter printer(unique("everywhere"));
+        printer.setDeviceURI("ipp://localhost:" + QString::number(m_sandbox.port()) + "/printers/" + source);
+        printer.setState(IPP_PSTATE_IDLE);
+        printer.setDriver(DriverStep::driverlessDriver());
+        PrinterCreator creator(CUPSManager::m_CUPSManagerInstance);
+        const PrinterCreator::Result made = creator.commit(printer, "A4");
+        QVERIFY2(made.outcome == PrinterCreator::Result::Created, qPrintable(made.reason));
+        QVERIFY(CUPSManager::m_CUPSManagerInstance.findPrinter(printer.Name(), queue));
+        QVERIFY2(queue.ModelInfo().contains("IPP Everywhere"), qPrintable(queue.ModelInfo()));
     }
 
 private:
