@@ -38,4 +38,9 @@ void CUPSJob::fillFrom(ipp_attribute_t *attr)
         m_CreationTime = ippGetInteger(attr, 0);
     else if (!strcmp(name, "job-state"))
         m_State = ippGetInteger(attr, 0);
+    else if (!strcmp(name, "job-state-reasons")) {
+        m_StateReasons.clear();
+        for (int i = 0; i < ippGetCount(attr); ++i)
+            m_StateReasons << QString::fromUtf8(ippGetString(attr, i, nullptr));
+    }
 }

@@ -4,6 +4,7 @@
 #include <cups/cups.h>
 
 #include <QString>
+#include <QStringList>
 
 // One print job, from an IPP answer or from cupsGetJobs.
 class CUPSJob
@@ -23,6 +24,8 @@ public:
     int CreationTime() const { return m_CreationTime; }
     // IPP job state: 3 pending ... 9 completed.
     int State() const { return m_State; }
+    // "job-state-reasons" keywords, as the scheduler gives them.
+    QStringList StateReasons() const { return m_StateReasons; }
 
     // Takes one attribute of an IPP answer, whatever its group, and logs it
     // to "ipp_job.log".
@@ -37,6 +40,7 @@ private:
     int m_KOctets = 0;
     int m_CreationTime = 0;
     int m_State = 0;
+    QStringList m_StateReasons;
 };
 
 #endif

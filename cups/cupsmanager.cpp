@@ -293,6 +293,18 @@ bool CUPSManager::printFile(const CUPSPrinter &printer, const QString &jobName, 
     return true;
 }
 
+bool CUPSManager::findJob(const QString &queueName, int jobId, CUPSJob &job)
+{
+    Requests::GetJobAttributes request(printerUri(queueName).toUtf8().constData(), jobId);
+    if (!sendChecked(request))
+        return false;
+    ipp_t *response = request.response();
+    for (ipp_attribute_t *attr = ippFirstAttribute(response); attr; attr = ippNextAttribute(response))
+        job.fillFrom(attr);
+    IPPLog::flush(IPPLog::Job);
+    return true;
+}
+
 bool CUPSManager::cancelJob(const QString &jobUri)
 {
     Requests::CancelJob request(jobUri.toUtf8().constData());

@@ -140,6 +140,9 @@ public:
     // printerUri() when it has none). job, when given, receives the new job.
     bool printFile(const CUPSPrinter &printer, const QString &jobName, const QString &documentFormat,
                    const QString &fileName, CUPSJob *job = nullptr);
+    // Asks the scheduler for one job of a queue: its state and the reasons;
+    // false when there is no such job or no answer.
+    bool findJob(const QString &queueName, int jobId, CUPSJob &job);
     bool cancelJob(const QString &jobUri);
     // Through cupsCancelJob.
     bool cancelJob(const QString &queueName, int jobId);

@@ -5,6 +5,7 @@
 #include "requests/printfile.h"
 #include "requests/canceljob.h"
 #include "requests/getjobs.h"
+#include "requests/getjobattributes.h"
 #include "requests/getprinterattributes.h"
 #include "requests/getdefaultprinter.h"
 #include "requests/getprinters.h"

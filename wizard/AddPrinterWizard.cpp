@@ -263,6 +263,8 @@ void AddPrinterWizard::OnPrinterOptions()
 
 void AddPrinterWizard::pageEntered(int index)
 {
+    if (index == DriverPage)
+        m_drivers->setDeviceUri(choice().deviceUri);
     if (index != NamePage)
         return;
     softAssert(isPortAssigned(), "isPortAssigned()", "AddPrinterWizard", 591);

@@ -53,6 +53,7 @@ void DriverStep::showDrivers(bool fetched)
     for (auto it = m_drivers.cbegin(); it != m_drivers.cend(); ++it)
         m_pDriversList->addItem(it.key());
     showFetchProblem(fetched);
+    showDriverless();
     // The list may come after the printer was chosen.
     applyMatch();
     driverChanged();
@@ -85,6 +86,48 @@ bool DriverStep::isDriverAssigned() const
     return item && m_pDriversList->currentRow() >= 0 && item->isSelected();
 }
 
+CUPSDriver DriverStep::driver() const
+{
+    const QString text = driverText();
+    return text == driverlessText() ? driverlessDriver() : m_drivers.value(text);
+}
+
+QString DriverStep::driverlessText()
+{
+    return QStringLiteral("Driverless (IPP Everywhere)");
+}
+
+CUPSDriver DriverStep::driverlessDriver()
+{
+    CUPSDriver driver;
+    driver.setModel(driverlessText());
+    // The scheduler's model, as "lpadmin -m everywhere" names it.
+    driver.setDriverFile(QStringLiteral("everywhere"));
+    return driver;
+}
+
+void DriverStep::setDeviceUri(const QString &uri)
+{
+    m_deviceUri = uri;
+    showDriverless();
+    applyMatch();
+    driverChanged();
+}
+
+void DriverStep::showDriverless()
+{
+    if (!m_pDriversList)
+        return;
+    const QString scheme = m_deviceUri.section(QLatin1Char(':'), 0, 0).toLower();
+    const bool wanted = !m_drivers.isEmpty()
+        && (scheme == QLatin1String("ipp") || scheme == QLatin1String("ipps") || scheme == QLatin1String("dnssd"));
+    const QList<QListWidgetItem *> items = m_pDriversList->findItems(driverlessText(), Qt::MatchExactly);
+    if (wanted && items.isEmpty())
+        m_pDriversList->addItem(driverlessText());
+    else if (!wanted)
+        qDeleteAll(items);
+}
+
 QString DriverStep::driverText() const
 {
     const QListWidgetItem *item = m_pDriversList ? m_pDriversList->currentItem() : nullptr;
@@ -105,9 +148,13 @@ void DriverStep::selectMatching(const QString &model, const QString &make)
 
 void DriverStep::applyMatch()
 {
-    if (m_wantedModel.isEmpty())
-        return;
-    const QString key = DriverMatcher::bestMatch(m_drivers, m_wantedModel, m_wantedMake, QLocale().name());
+    QString key;
+    if (!m_wantedModel.isEmpty())
+        key = DriverMatcher::bestMatch(m_drivers, m_wantedModel, m_wantedMake, QLocale().name());
+    // The package's own driver comes first; without one that fits, a
+    // printer that needs none is set up without, unless the user chose.
+    if (key.isEmpty() && !isDriverAssigned())
+        key = driverlessText();
     if (key.isEmpty())
         return;
     const QList<QListWidgetItem *> items = m_pDriversList->findItems(key, Qt::MatchExactly);

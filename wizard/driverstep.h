@@ -33,7 +33,7 @@ public:
     bool isDriverAssigned() const;
     // The chosen driver's display name, and its record.
     QString driverText() const;
-    CUPSDriver driver() const { return m_drivers.value(driverText()); }
+    CUPSDriver driver() const;
     const QMap<QString, CUPSDriver> &drivers() const { return m_drivers; }
 
     // Next follows the choice.
@@ -41,6 +41,15 @@ public:
     // Preselects the driver that best fits the printer, now or once the
     // list is there; an empty model forgets the printer.
     void selectMatching(const QString &model, const QString &make);
+    // The chosen port: a printer reached over IPP is also offered without
+    // a driver of the package, built by the scheduler from what the printer
+    // says of itself.
+    void setDeviceUri(const QString &uri);
+
+    // The entry after the package's drivers for such a printer, and its
+    // scheduler model.
+    static QString driverlessText();
+    static CUPSDriver driverlessDriver();
 
 private:
     void showDrivers(bool fetched);
@@ -48,6 +57,8 @@ private:
     // explanation and Retry when the list could not be had.
     void showFetchProblem(bool fetched);
     void applyMatch();
+    // Adds or drops the driverless entry as the port calls for.
+    void showDriverless();
 
     TitlelessWizard *m_wizard;
     const int m_page;
@@ -59,6 +70,7 @@ private:
     QMap<QString, CUPSDriver> m_drivers;
     QString m_wantedModel;
     QString m_wantedMake;
+    QString m_deviceUri;
 };
 
 #endif

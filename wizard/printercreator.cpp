@@ -9,6 +9,7 @@
 #include "tempfile.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
@@ -46,6 +47,10 @@ PrinterCreator::Result PrinterCreator::commit(const CUPSPrinter &printer, const 
 
     if (!create(printer)) {
         result.reason = m_cups.lastStatusText();
+        undoCreate(name, result);
+        return result;
+    }
+    if (printer.PPDName() == QLatin1String("everywhere") && !hasBuiltDriver(name, &result.reason)) {
         undoCreate(name, result);
         return result;
     }
@@ -106,6 +111,28 @@ bool PrinterCreator::nameInUse(const QString &name, bool *listed) const
 bool PrinterCreator::create(const CUPSPrinter &printer) const
 {
     return m_cups.addPrinter(printer);
+}
+
+bool PrinterCreator::hasBuiltDriver(const QString &queue, QString *reason) const
+{
+    QElapsedTimer clock;
+    clock.start();
+    CUPSPrinter found;
+    do {
+        if (!m_cups.findPrinter(queue, found)) {
+            *reason = m_cups.lastStatusText();
+            return false;
+        }
+        // Until its driver is there, the queue passes data on unchanged.
+        const QString model = found.ModelInfo();
+        if (!model.isEmpty() && model != QLatin1String("Local Raw Printer"))
+            return true;
+        QThread::msleep(DriverBuildPollMs);
+    } while (!clock.hasExpired(DriverBuildWaitMs));
+    *reason = found.StateMessage().isEmpty()
+        ? QCoreApplication::translate("AddPrinterWizard", "The printer did not say what it can do.")
+        : found.StateMessage();
+    return false;
 }
 
 PpdFilePtr PrinterCreator::openDriver(const TempFile &copy)

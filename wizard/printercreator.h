@@ -57,6 +57,13 @@ public:
     bool nameInUse(const QString &name, bool *listed) const;
 
     bool create(const CUPSPrinter &printer) const;
+    // Whether a queue made with the scheduler's driverless model got its
+    // driver: the scheduler builds it from the printer's answer after it
+    // answered the request. Waits the request timeouts at most; *reason
+    // then says why not.
+    bool hasBuiltDriver(const QString &queue, QString *reason) const;
+    static constexpr int DriverBuildWaitMs = 13000;
+    static constexpr int DriverBuildPollMs = 250;
 
     // Whether the default page size of the queue's driver is paper; a
     // driver file that can't be fetched or read counts as no.

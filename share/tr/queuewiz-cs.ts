@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (připojeno přes USB)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>Čeká se na vytištění zkušební stránky...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>Zkušební stránka byla vytištěna.</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>Zkušební stránka se nevytiskla: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>Zkušební stránka se zatím nevytiskla: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>Zkušební stránka byla zrušena.</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>Zkušební stránku nelze zrušit: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>tiskárna je zastavena</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>úloha byla zrušena</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>tiskový systém úlohu vzdal</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>úloha je pozdržena</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>tisková služba neuvedla důvod</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>Tiskárna nesdělila, co umí.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>&amp;Zadat adresu ručně</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>&amp;Zrušit zkušební stránku</translation>
     </message>
 </context>
 <context>

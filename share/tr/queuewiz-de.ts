@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (über USB angeschlossen)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>Warten, bis die Testseite gedruckt ist...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>Die Testseite wurde gedruckt.</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>Die Testseite wurde nicht gedruckt: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>Die Testseite ist noch nicht gedruckt: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>Die Testseite wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>Die Testseite konnte nicht abgebrochen werden: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>der Drucker ist angehalten</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>der Auftrag wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>das Drucksystem hat den Auftrag aufgegeben</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>der Auftrag wird zurückgehalten</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>der Druckdienst hat keinen Grund genannt</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>Der Drucker hat nicht mitgeteilt, was er kann.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>Adresse stattdessen &amp;eingeben</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>Testseite &amp;abbrechen</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (conectada por USB)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>Esperando a que se imprima la página de prueba...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>Se ha impreso la página de prueba.</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>La página de prueba no se imprimió: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>La página de prueba aún no se ha impreso: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>Se ha cancelado la página de prueba.</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>No se pudo cancelar la página de prueba: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>la impresora está detenida</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>el trabajo se ha cancelado</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>el sistema de impresión abandonó el trabajo</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>el trabajo está retenido</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>el servicio de impresión no dio ningún motivo</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>La impresora no indicó lo que puede hacer.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>&amp;Escribir la dirección en su lugar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>&amp;Cancelar página de prueba</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (connectée par USB)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>En attente de l&apos;impression de la page de test...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>La page de test a été imprimée.</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>La page de test n&apos;a pas été imprimée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>La page de test n&apos;a pas encore été imprimée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>La page de test a été annulée.</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>Impossible d&apos;annuler la page de test&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>l&apos;imprimante est arrêtée</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>le travail a été annulé</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>le système d&apos;impression a abandonné le travail</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>le travail est suspendu</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>le service d&apos;impression n&apos;a donné aucune raison</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>L&apos;imprimante n&apos;a pas indiqué ce qu&apos;elle sait faire.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>&amp;Taper l&apos;adresse à la place</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>&amp;Annuler la page de test</translation>
     </message>
 </context>
 <context>

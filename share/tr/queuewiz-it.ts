@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (collegata via USB)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>In attesa della stampa della pagina di prova...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>La pagina di prova è stata stampata.</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>La pagina di prova non è stata stampata: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>La pagina di prova non è ancora stata stampata: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>La pagina di prova è stata annullata.</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>Impossibile annullare la pagina di prova: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>la stampante è ferma</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>il lavoro è stato annullato</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>il sistema di stampa ha rinunciato al lavoro</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>il lavoro è in attesa</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>il servizio di stampa non ha indicato alcun motivo</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>La stampante non ha indicato cosa sa fare.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>&amp;Digita invece l&apos;indirizzo</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>&amp;Annulla pagina di prova</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (USB 接続)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>テストページの印刷を待っています...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>テストページが印刷されました。</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>テストページは印刷されませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>テストページはまだ印刷されていません: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>テストページは取り消されました。</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>テストページを取り消せませんでした: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>プリンターが停止しています</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>ジョブは取り消されました</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>印刷システムがジョブを中止しました</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>ジョブは保留されています</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>印刷サービスは理由を示しませんでした</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>プリンターが対応機能を返しませんでした。</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>代わりにアドレスを入力(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>テストページを取り消す(&amp;C)</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (aangesloten via USB)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>Wachten tot de testpagina is afgedrukt...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>De testpagina is afgedrukt.</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>De testpagina is niet afgedrukt: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>De testpagina is nog niet afgedrukt: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>De testpagina is geannuleerd.</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>Kan de testpagina niet annuleren: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>de printer is gestopt</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>de taak is geannuleerd</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>het afdruksysteem heeft de taak opgegeven</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>de taak wordt vastgehouden</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>de afdrukservice gaf geen reden</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>De printer heeft niet gemeld wat hij kan.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>In plaats daarvan het &amp;adres typen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>Testpagina &amp;annuleren</translation>
     </message>
 </context>
 <context>

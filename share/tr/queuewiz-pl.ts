@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (podłączona przez USB)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>Oczekiwanie na wydrukowanie strony testowej...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>Strona testowa została wydrukowana.</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>Strona testowa nie została wydrukowana: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>Strona testowa nie została jeszcze wydrukowana: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>Strona testowa została anulowana.</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>Nie można anulować strony testowej: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>drukarka jest zatrzymana</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>zadanie zostało anulowane</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>system drukowania zrezygnował z zadania</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>zadanie jest wstrzymane</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>usługa drukowania nie podała przyczyny</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>Drukarka nie podała, co potrafi.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>&amp;Wpisz adres ręcznie</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>&amp;Anuluj stronę testową</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (conectada via USB)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>Aguardando a impressão da página de teste...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>A página de teste foi impressa.</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>A página de teste não foi impressa: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>A página de teste ainda não foi impressa: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>A página de teste foi cancelada.</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>Não foi possível cancelar a página de teste: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>a impressora está parada</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>o trabalho foi cancelado</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>o sistema de impressão desistiu do trabalho</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>o trabalho está retido</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>o serviço de impressão não informou o motivo</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>A impressora não informou o que sabe fazer.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>&amp;Digitar o endereço</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>&amp;Cancelar página de teste</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (подключён по USB)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>Ожидание печати пробной страницы...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>Пробная страница напечатана.</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>Пробная страница не напечатана: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>Пробная страница ещё не напечатана: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>Пробная страница отменена.</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>Не удалось отменить пробную страницу: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>принтер остановлен</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>задание отменено</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>система печати прервала задание</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>задание задержано</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>служба печати не указала причину</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>Принтер не сообщил, что он умеет.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>&amp;Ввести адрес вручную</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>&amp;Отменить пробную страницу</translation>
     </message>
 </context>
 <context>

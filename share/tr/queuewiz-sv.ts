@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1 (ansluten via USB)</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>Väntar på att testsidan skrivs ut...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>Testsidan har skrivits ut.</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>Testsidan skrevs inte ut: %1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>Testsidan har inte skrivits ut än: %1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>Testsidan har avbrutits.</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>Det gick inte att avbryta testsidan: %1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>skrivaren är stoppad</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>jobbet har avbrutits</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>utskriftssystemet gav upp jobbet</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>jobbet hålls kvar</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>utskriftstjänsten angav ingen orsak</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>Skrivaren berättade inte vad den kan.</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>Skriv in &amp;adressen i stället</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>Avbryt test&amp;sidan</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,54 @@
         <source>%1 (connected by USB)</source>
         <translation>%1（通过 USB 连接）</translation>
     </message>
+    <message>
+        <source>Waiting for the test page to print...</source>
+        <translation>正在等待打印测试页...</translation>
+    </message>
+    <message>
+        <source>The test page has been printed.</source>
+        <translation>测试页已打印。</translation>
+    </message>
+    <message>
+        <source>The test page did not print: %1</source>
+        <translation>测试页未能打印：%1</translation>
+    </message>
+    <message>
+        <source>The test page has not printed yet: %1</source>
+        <translation>测试页尚未打印：%1</translation>
+    </message>
+    <message>
+        <source>The test page was canceled.</source>
+        <translation>测试页已取消。</translation>
+    </message>
+    <message>
+        <source>The test page could not be canceled: %1</source>
+        <translation>无法取消测试页：%1</translation>
+    </message>
+    <message>
+        <source>the printer is stopped</source>
+        <translation>打印机已停止</translation>
+    </message>
+    <message>
+        <source>the job was canceled</source>
+        <translation>作业已取消</translation>
+    </message>
+    <message>
+        <source>the printing system gave up on the job</source>
+        <translation>打印系统已放弃该作业</translation>
+    </message>
+    <message>
+        <source>the job is held</source>
+        <translation>作业被挂起</translation>
+    </message>
+    <message>
+        <source>the printing service gave no reason</source>
+        <translation>打印服务未给出原因</translation>
+    </message>
+    <message>
+        <source>The printer did not say what it can do.</source>
+        <translation>打印机未说明其功能。</translation>
+    </message>
 </context>
 <context>
     <name>AddPrinterWizardBase</name>
@@ -251,6 +299,10 @@
     <message>
         <source>&amp;Type the Address Instead</source>
         <translation>改为输入地址(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel Test Page</source>
+        <translation>取消测试页(&amp;C)</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "AddPrinterWizard.h"
 #include "cupsmanager.h"
 #include "cupssandbox.h"
+#include "driverstep.h"
 #include "ippfaultproxy.h"
 #include "loopbackprinter.h"
 #include "papersize.h"
@@ -13,6 +14,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTcpServer>
 #include <QtTest>
 
 #include <signal.h>
@@ -78,6 +80,7 @@ private slots:
             m_sandbox.use();
         PrinterCreator::m_LpadminProgram = QStringLiteral("lpadmin");
         qunsetenv("LC_PAPER");
+        qunsetenv("QUEUEWIZ_TESTPAGE_WAIT");
     }
 
     // The finish page's test page comes from the package's own program and
@@ -117,6 +120,7 @@ private slots:
         const QByteArray job = printer.waitForJob(60000);
         QVERIFY2(job.startsWith("%!PS") || job.startsWith("%PDF"), job.left(40).constData());
         QTRY_VERIFY_WITH_TIMEOUT(test->isEnabled(), 30000);
+        QCOMPARE(f.child<QLabel>("TestStatusLabel")->text(), QStringLiteral("The test page has been printed."));
 
         // The program is looked for at each click, bin/ before the
         // installer's copy; it gets the queue name, and its exit status 1 is
@@ -322,6 +326,96 @@ private slots:
         QTRY_VERIFY(WizardFixture::texts(list->model()).contains(Laser));
         QVERIFY(!problem->isVisible());
         QVERIFY(f.toNamePage(Laser));
+    }
+
+    // A test page the scheduler could not print is told with its reasons;
+    // one still waiting after the wait may be canceled.
+    void testPageFollowed_data()
+    {
+        QTest::addColumn<QByteArray>("backend");
+        QTest::addColumn<QString>("said");
+        QTest::newRow("device fails") << QByteArray("echo 'ERROR: Out of toner' >&2; exit 1")
+                                      << "The test page did not print: Out of toner";
+        QTest::newRow("queue stopped") << QByteArray() << "The test page has not printed yet: Paused";
+    }
+
+    void testPageFollowed()
+    {
+        QFETCH(QByteArray, backend);
+        QFETCH(QString, said);
+        const QString name = unique(backend.isEmpty() ? "paused" : "failing");
+        WizardFixture f;
+        QVERIFY(QDir().mkpath(f.rootDir() + "/bin"));
+        QVERIFY(QFile::link(TestPaths::binaryDir() + "/tools/printertest/printertest",
+                            f.rootDir() + "/bin/printertest"));
+        QVERIFY(create(f, "127.0.0.1:9", Laser, name));
+        QStringList admin{ "lpadmin", "-p", name };
+        if (backend.isEmpty()) {
+            QCOMPARE(CupsSandbox::run({ "cupsdisable", "-r", "Paused", name }), 0);
+        } else {
+            const QString script = f.rootDir() + "/failing";
+            QVERIFY(f.addScript("failing", "#!/bin/sh\n[ $# = 0 ] && exit 0\n" + backend + "\n"));
+            QVERIFY(m_sandbox.addBackend("failing", script));
+            admin << "-v" << "failing:/" << "-o" << "printer-error-policy=abort-job";
+            QCOMPARE(CupsSandbox::run(admin), 0);
+        }
+        qputenv("QUEUEWIZ_TESTPAGE_WAIT", "3");
+        auto *test = f.child<QPushButton>("TestButton");
+        auto *status = f.child<QLabel>("TestStatusLabel");
+        auto *cancel = f.child<QPushButton>("CancelTestJobButton");
+        QTest::mouseClick(test, Qt::LeftButton);
+        QVERIFY(!test->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(test->isEnabled(), 30000);
+        QVERIFY2(status->text().startsWith(said), qPrintable(status->text()));
+        QCOMPARE(cancel->isVisible(), backend.isEmpty());
+        if (cancel->isVisible()) {
+            QTest::mouseClick(cancel, Qt::LeftButton);
+            QCOMPARE(status->text(), QStringLiteral("The test page was canceled."));
+            QVERIFY(!cancel->isVisible());
+        }
+    }
+
+    // A printer reached over IPP is offered without the package's driver
+    // when none fits; a queue whose printer gave nothing to build one from
+    // is not left behind, one whose printer answers gets its driver.
+    void driverless()
+    {
+        QTcpServer probe;
+        QVERIFY(probe.listen(QHostAddress::LocalHost));
+        const QString nowhere = "ipp://127.0.0.1:" + QString::number(probe.serverPort());
+        probe.close();
+        const QString name = unique("nowhere");
+        WizardFixture f;
+        QVERIFY(f.load() && f.toPortsPage() && f.typePort(nowhere) && f.click(QWizard::NextButton));
+        auto *list = f.child<QListWidget>("DriversList");
+        QTRY_VERIFY(list->count() > 1 && list->currentItem());
+        QCOMPARE(list->currentItem()->text(), QStringLiteral("Driverless (IPP Everywhere)"));
+        QCOMPARE(list->currentRow(), list->count() - 1);
+        QVERIFY(f.click(QWizard::NextButton));
+        auto *edit = f.child<QLineEdit>("NameEdit");
+        edit->selectAll();
+        QTest::keyClicks(edit, name);
+        QString seen;
+        TestSupport::answerMessageBox("OK", &seen, 30000);
+        QVERIFY(f.click(QWizard::NextButton));
+        QCOMPARE(seen, QStringLiteral("Error!|Can't add printer!"));
+        QCOMPARE(f.wizard()->currentId(), int(W::NamePage));
+        CUPSPrinter queue;
+        QVERIFY(!CUPSManager::m_CUPSManagerInstance.findPrinter(name, queue));
+
+        // The sandbox's own queue is a printer that answers over IPP.
+        const QString source = unique("source");
+        QCOMPARE(CupsSandbox::run({ "lpadmin", "-p", source, "-E", "-v", "socket://127.0.0.1:9", "-m",
+                                    "acme-laser1610.ppd" }), 0);
+        CUPSPrinter printer(unique("everywhere"));
+        printer.setDeviceURI("ipp://localhost:" + QString::number(m_sandbox.port()) + "/printers/" + source);
+        printer.setState(IPP_PSTATE_IDLE);
+        printer.setDriver(DriverStep::driverlessDriver());
+        PrinterCreator creator(CUPSManager::m_CUPSManagerInstance);
+        const PrinterCreator::Result made = creator.commit(printer, "A4");
+        QVERIFY2(made.outcome == PrinterCreator::Result::Created, qPrintable(made.reason));
+        QVERIFY(CUPSManager::m_CUPSManagerInstance.findPrinter(printer.Name(), queue));
+        QVERIFY2(queue.ModelInfo().contains("IPP Everywhere"), qPrintable(queue.ModelInfo()));
     }
 
 private:
