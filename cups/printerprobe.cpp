@@ -1,14 +1,16 @@
 #include "printerprobe.h"
 
 #include "cupsptr.h"
+#include "snmpdevice.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace {
 
@@ -16,15 +18,6 @@ QString attributeText(ipp_t *response, const char *name)
 {
     ipp_attribute_t *attr = ippFindAttribute(response, name, IPP_TAG_ZERO);
     return attr ? QString::fromUtf8(ippGetString(attr, 0, nullptr)) : QString();
-}
-
-// Found as the network search finds it; "none" asks no printer over SNMP.
-QString snmpBackend()
-{
-    const QString program = qEnvironmentVariable("NETDISCOVERY_SNMP_BACKEND");
-    if (!program.isEmpty())
-        return program;
-    return qEnvironmentVariable("CUPS_SERVERBIN", QStringLiteral("/usr/lib/cups")) + QStringLiteral("/backend/snmp");
 }
 
 } // namespace
@@ -92,15 +85,13 @@ PrinterProbe::Answer PrinterProbe::askIpp(const QString &uri, int timeoutMs)
 
 PrinterProbe::Answer PrinterProbe::askSnmp(const QString &uri, int timeoutMs)
 {
-    const QString program = snmpBackend();
+    // Found and set up as the network search does it.
+    const QString program = SnmpDevice::backendProgram();
     QTemporaryDir config;
     QFile conf(QDir(config.path()).filePath(QStringLiteral("snmp.conf")));
     if (!QFile::exists(program) || !config.isValid() || !conf.open(QIODevice::WriteOnly))
         return {};
-    // The backend reads its settings from CUPS_SERVERROOT/snmp.conf: only
-    // this host, and done in time.
-    conf.write("Address " + QUrl(uri).host().toUtf8() + "\nMaxRunTime "
-               + QByteArray::number(qMax(1, timeoutMs / 1000 - 1)) + "\n");
+    conf.write(SnmpDevice::config(QUrl(uri).host(), QString(), timeoutMs));
     conf.close();
 
     QProcess backend;
@@ -114,16 +105,14 @@ PrinterProbe::Answer PrinterProbe::askSnmp(const QString &uri, int timeoutMs)
         backend.waitForFinished(1000);
         return {};
     }
-    // CLASS URI "MAKE-AND-MODEL" "INFO" "DEVICE-ID" "LOCATION"
-    static const QRegularExpression line(
-        QStringLiteral("^\\S+\\s+\\S+\\s+\"([^\"]*)\"\\s+\"[^\"]*\"\\s+\"([^\"]*)\""), QRegularExpression::MultilineOption);
-    const QRegularExpressionMatch m = line.match(QString::fromUtf8(backend.readAllStandardOutput()));
-    if (!m.hasMatch())
+    SnmpDevice device;
+    const QStringList lines = QString::fromUtf8(backend.readAllStandardOutput()).split(QLatin1Char('\n'));
+    if (std::none_of(lines.cbegin(), lines.cend(), [&](const QString &l) { return SnmpDevice::parse(l, &device); }))
         return {};
     Answer answer;
     answer.answered = true;
-    answer.makeAndModel = m.captured(1);
-    answer.deviceId = m.captured(2);
+    answer.makeAndModel = device.makeAndModel;
+    answer.deviceId = device.deviceId;
     answer.uri = uri;
     return answer;
 }

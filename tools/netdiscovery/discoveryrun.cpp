@@ -16,12 +16,6 @@ QString programFromEnv(const char *variable, const QString &fallback)
     return v.isEmpty() ? fallback : v;
 }
 
-QString snmpBackend()
-{
-    const QString serverBin = qEnvironmentVariable("CUPS_SERVERBIN", QStringLiteral("/usr/lib/cups"));
-    return programFromEnv("NETDISCOVERY_SNMP_BACKEND", serverBin + QStringLiteral("/backend/snmp"));
-}
-
 } // namespace
 
 DiscoveryRun::DiscoveryRun(const QString &community, int timeoutMs, QObject *parent)
@@ -87,7 +81,7 @@ void DiscoveryRun::startDnsSd()
 
 void DiscoveryRun::startSnmp()
 {
-    const QString program = snmpBackend();
+    const QString program = SnmpDevice::backendProgram();
     if (program == QLatin1String("none"))
         return;
     if (!QFile::exists(program)) {
@@ -102,11 +96,7 @@ void DiscoveryRun::startSnmp()
         return;
     }
     const QString address = qEnvironmentVariable("NETDISCOVERY_SNMP_ADDRESS", QStringLiteral("@LOCAL"));
-    QByteArray text = "Address " + address.toUtf8() + "\n";
-    if (!m_community.isEmpty())
-        text += "Community " + m_community.toUtf8() + "\n";
-    text += "MaxRunTime " + QByteArray::number(qMax(1, m_timeoutMs / 1000 - 1)) + "\n";
-    conf.write(text);
+    conf.write(SnmpDevice::config(address, m_community, m_timeoutMs));
     conf.close();
     start(QStringLiteral("SNMP"), program, {}, { QStringLiteral("CUPS_SERVERROOT=") + m_snmpConfig.path() });
 }

@@ -50,3 +50,19 @@ bool SnmpDevice::parse(const QString &line, SnmpDevice *out)
     *out = d;
     return true;
 }
+
+QString SnmpDevice::backendProgram()
+{
+    const QString program = qEnvironmentVariable("NETDISCOVERY_SNMP_BACKEND");
+    if (!program.isEmpty())
+        return program;
+    return qEnvironmentVariable("CUPS_SERVERBIN", QStringLiteral("/usr/lib/cups")) + QStringLiteral("/backend/snmp");
+}
+
+QByteArray SnmpDevice::config(const QString &address, const QString &community, int timeoutMs)
+{
+    QByteArray text = "Address " + address.toUtf8() + "\n";
+    if (!community.isEmpty())
+        text += "Community " + community.toUtf8() + "\n";
+    return text + "MaxRunTime " + QByteArray::number(qMax(1, timeoutMs / 1000 - 1)) + "\n";
+}
