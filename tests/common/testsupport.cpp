@@ -1,5 +1,7 @@
 #include "testsupport.h"
 
+#include "testpaths.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -9,6 +11,10 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
+
+#include <cstdio>
+#include <unistd.h>
+#include <vector>
 #include <QTimer>
 
 #include <memory>
@@ -79,6 +85,18 @@ void answerMessageBox(const QString &answer, QString *seen, int timeoutMs)
         box->reject();
     });
     timer->start(20);
+}
+
+bool inDnssdNetwork(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsSet("QW_DNSSD_NETWORK"))
+        return true;
+    const QByteArray network = TestPaths::sourceDir().toLocal8Bit() + "/tests/common/dnssd-network";
+    std::vector<char *> args{ const_cast<char *>(network.constData()) };
+    args.insert(args.end(), argv, argv + argc + 1);
+    execv(network.constData(), args.data());
+    perror(network.constData());
+    return false;
 }
 
 } // namespace TestSupport

@@ -42,6 +42,12 @@ Run run(const QString &program, const QStringList &args,
 // *seen.
 void answerMessageBox(const QString &answer, QString *seen, int timeoutMs = 5000);
 
+// First thing in main() of a test that needs printers announcing
+// themselves: runs the program again inside tests/common/dnssd-network (a
+// network, D-Bus and avahi-daemon of its own) and returns there; returns
+// false, after saying why, only when that could not be started.
+bool inDnssdNetwork(int argc, char **argv);
+
 // Any warning fails the running test, but for the offscreen platform's
 // notes about what it cannot do.
 void failOnWarnings();

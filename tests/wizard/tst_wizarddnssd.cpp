@@ -144,14 +144,8 @@ private slots:
 // Runs itself in a network of its own.
 int main(int argc, char **argv)
 {
-    if (!qEnvironmentVariableIsSet("QW_DNSSD_NETWORK")) {
-        const QByteArray network = TestPaths::sourceDir().toLocal8Bit() + "/tests/common/dnssd-network";
-        std::vector<char *> args{ const_cast<char *>(network.constData()) };
-        args.insert(args.end(), argv, argv + argc + 1);
-        execv(network.constData(), args.data());
-        perror(network.constData());
+    if (!TestSupport::inDnssdNetwork(argc, argv))
         return 1;
-    }
     QApplication app(argc, argv);
     TestWizardDnsSd test;
     return QTest::qExec(&test, argc, argv);
