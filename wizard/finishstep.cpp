@@ -131,6 +131,7 @@ void FinishStep::testPageProgramEnded()
     // tell. Asked by a timer, so that the window stays alive meanwhile.
     m_pTestStatusLabel->setText(QCoreApplication::translate("AddPrinterWizard", "Waiting for the test page to print..."));
     m_pTestStatusLabel->show();
+    m_followWaitMs = testPageWaitMs();
     m_followClock.start();
     m_followTimer.start();
 }
@@ -146,7 +147,7 @@ void FinishStep::followJob()
     else if (state >= IPP_JSTATE_STOPPED)
         endFollowing(QCoreApplication::translate("AddPrinterWizard", "The test page did not print: %1").arg(reasons(job.StateReasons())),
                      state == IPP_JSTATE_STOPPED);
-    else if (m_followClock.hasExpired(testPageWaitMs()))
+    else if (m_followClock.hasExpired(m_followWaitMs))
         endFollowing(QCoreApplication::translate("AddPrinterWizard", "The test page has not printed yet: %1").arg(reasons(job.StateReasons())), true);
 }
 

@@ -66,6 +66,7 @@ private:
     int m_testJob = 0;
     QTimer m_followTimer;
     QElapsedTimer m_followClock;
+    int m_followWaitMs = 0;
 };
 
 #endif
